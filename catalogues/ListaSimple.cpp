@@ -1,0 +1,185 @@
+#include "catalogues/ListaSimple.h"
+
+#include "core/Alfarje.h"
+#include "core/BaseDatos.h"
+#include "core/Controles.h"
+#include "core/Mensajes.h"
+#include "core/Module1.h"
+#include "core/Pulsante.h"
+#include "core/clsGrillas.h"
+#include "core/clsServicios.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QStyle>
+
+using namespace Qt::StringLiterals;
+
+namespace nomencla {
+
+ListaSimple::ListaSimple(const DatosListaSimple& datos)
+    : Formulario(datos.forma, datos.titulo, datos.keyPreview), d_(datos)
+{
+}
+
+ListaSimple::~ListaSimple() = default;
+
+void ListaSimple::Disenar(QWidget* lienzo)
+{
+    auto* rejilla = new QGridLayout(lienzo);
+
+    auto* etiqueta = new Etiqueta(d_.etiquetaTexto, lienzo);
+    etiqueta->setObjectName(u"Label1(0)"_s);
+    Text1 = new CajaTexto(lienzo, 25);
+    Text1->setObjectName(u"Text1"_s);
+    etiqueta->setBuddy(Text1);
+
+    auto* agregar = new Pulsante(u"Agregar"_s, lienzo);
+    agregar->setObjectName(u"Bt(0)"_s);
+    auto* nuevo = new Pulsante(d_.txNuevo, lienzo);
+    nuevo->setObjectName(u"Bt(1)"_s);
+    auto* quitar = new Pulsante(QString(), lienzo, style()->standardIcon(QStyle::SP_TrashIcon));
+    quitar->setObjectName(u"Bt(2)"_s);
+    quitar->setToolTip(u"Quitar el elemento seleccionado"_s);
+    quitar->setAccessibleName(u"Quitar"_s);
+
+    auto* lista = new Etiqueta(d_.etiquetaLista, lienzo);
+    lista->setObjectName(u"Label1(1)"_s);
+    GR = new Alfarje(lienzo);
+    GR->setObjectName(u"GR"_s);
+    GR->setFormatocolumnas(d_.formato);
+    GR->setShowrownumbers(true);
+    GR->setSearchcolumn(-1);
+    GR->setTotalslineshow(false);
+    GR->setMinimumSize(360, 320);
+
+    auto* botones = new QHBoxLayout;
+    botones->addWidget(agregar);
+    botones->addWidget(nuevo);
+    botones->addWidget(quitar);
+    botones->addStretch();
+
+    rejilla->addWidget(etiqueta, 0, 0);
+    rejilla->addWidget(Text1, 0, 1);
+    rejilla->addLayout(botones, 1, 0, 1, 2);
+    rejilla->addWidget(lista, 2, 0, 1, 2);
+    rejilla->addWidget(GR, 3, 0, 1, 2);
+
+    setTabOrder(Text1, agregar);
+    setTabOrder(agregar, nuevo);
+    setTabOrder(nuevo, quitar);
+    setTabOrder(quitar, GR);
+
+    connect(agregar, &QPushButton::clicked, this, [this] { Bt_Click(0); });
+    connect(nuevo, &QPushButton::clicked, this, [this] { Bt_Click(1); });
+    connect(quitar, &QPushButton::clicked, this, [this] { Bt_Click(2); });
+    // The search as the user types, on the raw text; no match selects nothing.
+    connect(Text1, &CajaTexto::Change, this, [this] { GR->setRow(GR->FindRow(Text1->text(), 0, 5, false)); });
+    connect(Text1, &CajaTexto::KeyPress, this, [this](int& KeyAscii) {
+        if (KeyAscii == vbKeyReturn)
+            Bt_Click(0);
+    });
+    Text1->setFocus();
+}
+
+void ListaSimple::Form_Load()
+{
+    CargarLista();
+    M().HuboCambios = false;
+}
+
+void ListaSimple::CargarLista()
+{
+    clsGrillas* grillas = nullptr;
+    if (d_.grillasPropias) {
+        if (!grillas_)
+            grillas_ = std::make_unique<clsGrillas>();
+        grillas = grillas_.get();
+    } else {
+        grillas = &M().grillas();
+    }
+    operacion([&] {
+        grillas->LlenarGrilla(M().Conexion, GR, d_.lista.sql, d_.lista.enlazar(M().IdEmp), d_.campos, false, true);
+    });
+}
+
+void ListaSimple::Bt_Click(int Index)
+{
+    switch (Index) {
+    case 0: Guardar(); break;
+    case 1: Nuevo(); break;
+    case 2: Quitar(); break;
+    default: break;
+    }
+}
+
+void ListaSimple::Guardar()
+{
+    const QString nombre = Text1->text().trimmed();
+    if (nombre.isEmpty()) {
+        MsgBox(this, d_.msgVacio, estilo::Critico, u"Error"_s);
+    } else if (GR->FindRow(nombre, 0, 0, false) >= 0) {
+        MsgBox(this, d_.msgDuplicado, estilo::Exclamacion, u"AVISO"_s);
+    } else {
+        const bool hecho = operacion([&] {
+            QSqlQuery q = ejecutar(M().Conexion, d_.insertar.sql, d_.insertar.enlazar(M().IdEmp, {nombre}));
+            QString fila = nombre;
+            if (d_.porClave) {
+                // The new row carries its key, so it can be removed in this same opening.
+                QVariant clave = q.lastInsertId();
+                if (!clave.isValid())
+                    clave = consultarValor(M().Conexion, u"SELECT LAST_INSERT_ID() AS cod"_s);
+                fila += u'\t' + clave.toString();
+            }
+            GR->AddItem(fila);
+        });
+        if (hecho) {
+            Text1->setText(QString());
+            Text1->setFocus();
+            M().HuboCambios = true;
+            MsgBox(this, u"La información se ha guardado correctamente!"_s, estilo::Informacion, u"Listo"_s);
+        }
+    }
+    Text1->setFocus();
+}
+
+void ListaSimple::Nuevo()
+{
+    Text1->setText(QString());
+    Text1->setFocus();
+}
+
+void ListaSimple::Quitar()
+{
+    const int fila = GR->Row();
+    if (fila < 0)
+        return;
+    const QString nombre = GR->CellText();
+    const QString clave = d_.porClave ? GR->CellText(fila, 1) : QString();
+    if (d_.porClave && clave.isEmpty())
+        return; // a row without its key cannot be addressed
+    const QVariantList propios{nombre, clave.toLongLong()};
+    if (!d_.referencia.vacia()) {
+        QVariant usos;
+        if (!operacion([&] {
+                usos = M().servicios().ConsultarValor(M().Conexion, d_.referencia.sql,
+                                                      d_.referencia.enlazar(M().IdEmp, propios));
+            }))
+            return;
+        if (usos.toLongLong() > 0) {
+            MsgBox(this, d_.msgReferencia.arg(nombre), estilo::Exclamacion, u"AVISO"_s);
+            return;
+        }
+    }
+    if (MsgBox(this, d_.msgConfirmar.arg(nombre), estilo::ExclamacionSiNo, u"CONFIRME"_s) != vbYes)
+        return;
+    if (!operacion([&] { ejecutar(M().Conexion, d_.borrar.sql, d_.borrar.enlazar(M().IdEmp, propios)); }))
+        return;
+    GR->RemoveItem();
+    M().HuboCambios = true;
+    MsgBox(this, u"La operación se realizó correctamente!"_s, estilo::Informacion, u"Listo"_s);
+    Text1->setText(QString());
+    Text1->setFocus();
+}
+
+} // namespace nomencla

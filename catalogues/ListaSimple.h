@@ -1,0 +1,62 @@
+#pragma once
+// Lists of plain names, one name per row: a text box above the grid, add the
+// typed name, remove the selected one, type to find. A row is known by its
+// text (or, where the table has one, by its key kept in a hidden cell).
+#include "core/Formulario.h"
+#include "core/Sentencia.h"
+
+#include <memory>
+
+namespace nomencla {
+
+class Alfarje;
+class CajaTexto;
+class clsGrillas;
+
+struct DatosListaSimple {
+    QString forma;
+    QString titulo;
+    QString formato;         // column format of GR
+    QString etiquetaTexto;   // caption of Text1, with its access key
+    QString etiquetaLista;
+    QString txNuevo;         // caption of Bt(1)
+    bool keyPreview = false;
+    bool grillasPropias = false; // a grid filler of its own instead of the shared one
+    // Statements; V0 is the name, V1 the row's key.
+    Sentencia lista;
+    QString campos;
+    Sentencia insertar;
+    Sentencia referencia;    // empty: no reference check
+    Sentencia borrar;
+    bool porClave = false;   // rows carry their key in the second cell
+    // Messages; %1 is the name.
+    QString msgVacio;
+    QString msgDuplicado;
+    QString msgReferencia;
+    QString msgConfirmar;
+};
+
+class ListaSimple : public Formulario {
+    Q_OBJECT
+public:
+    explicit ListaSimple(const DatosListaSimple& datos);
+    ~ListaSimple() override;
+
+    void Guardar();
+    void Nuevo();
+    void Quitar();
+
+protected:
+    void Disenar(QWidget* lienzo) override;
+    void Form_Load() override;
+    void Bt_Click(int Index);
+
+private:
+    const DatosListaSimple& d_;
+    std::unique_ptr<clsGrillas> grillas_;
+    Alfarje* GR = nullptr;
+    CajaTexto* Text1 = nullptr;
+    void CargarLista();
+};
+
+} // namespace nomencla

@@ -1,0 +1,124 @@
+#include "core/BaseDatos.h"
+
+#include <QSqlDriver>
+
+using namespace Qt::StringLiterals;
+
+namespace nomencla {
+
+ErrorBD::ErrorBD(QSqlError error, QString sentencia)
+    : error_(std::move(error)), sentencia_(std::move(sentencia)), mensaje_(texto().toUtf8())
+{
+}
+
+QString ErrorBD::texto() const
+{
+    QString t = error_.databaseText().trimmed();
+    const QString driver = error_.driverText().trimmed();
+    if (t.isEmpty())
+        t = driver;
+    else if (!driver.isEmpty() && !t.contains(driver))
+        t = driver + u"\n"_s + t;
+    if (!error_.nativeErrorCode().isEmpty())
+        t += u" ("_s + error_.nativeErrorCode() + u")"_s;
+    if (t.isEmpty())
+        t = QStringLiteral("Error desconocido de la base de datos.");
+    return t;
+}
+
+const char* ErrorBD::what() const noexcept
+{
+    return mensaje_.constData();
+}
+
+static void fallar(const QSqlError& error, const QString& sql)
+{
+    throw ErrorBD(error.isValid() ? error
+                                  : QSqlError(QStringLiteral("La conexión con la base de datos no está abierta."),
+                                              {}, QSqlError::ConnectionError),
+                  sql);
+}
+
+QSqlQuery ejecutar(QSqlDatabase& db, const QString& sql, const QVariantList& valores, bool soloAdelante)
+{
+    if (!db.isOpen())
+        fallar(db.lastError(), sql);
+    QSqlQuery q(db);
+    q.setForwardOnly(soloAdelante);
+    if (!q.prepare(sql))
+        fallar(q.lastError(), sql);
+    for (const QVariant& v : valores)
+        q.addBindValue(v);
+    if (!q.exec())
+        fallar(q.lastError(), sql);
+    return q;
+}
+
+QVariant consultarValor(QSqlDatabase& db, const QString& sql, const QVariantList& valores)
+{
+    QSqlQuery q = ejecutar(db, sql, valores);
+    if (!q.next()) {
+        if (q.lastError().isValid())
+            fallar(q.lastError(), sql);
+        return {};
+    }
+    return q.value(0);
+}
+
+bool esClaveDuplicada(const QSqlError& error)
+{
+    // 1062: ER_DUP_ENTRY (MySQL, MariaDB); SQLite reports a UNIQUE constraint.
+    const QString codigo = error.nativeErrorCode();
+    return codigo == u"1062"_s || codigo == u"2067"_s || codigo == u"1555"_s
+        || error.databaseText().contains(u"UNIQUE constraint"_s, Qt::CaseInsensitive);
+}
+
+bool esConexionPerdida(const QSqlError& error)
+{
+    const QString codigo = error.nativeErrorCode();
+    return codigo == u"2006"_s || codigo == u"2013"_s || codigo == u"2002"_s || codigo == u"1927"_s
+        || codigo == u"2055"_s || error.type() == QSqlError::ConnectionError;
+}
+
+Transaccion::Transaccion(QSqlDatabase& db) : db_(db)
+{
+    if (!db_.isOpen() || !db_.transaction())
+        fallar(db_.lastError(), QStringLiteral("START TRANSACTION"));
+    activa_ = true;
+}
+
+Transaccion::~Transaccion()
+{
+    if (activa_)
+        db_.rollback();
+}
+
+void Transaccion::confirmar()
+{
+    if (!db_.commit()) {
+        const QSqlError error = db_.lastError();
+        db_.rollback();
+        activa_ = false;
+        fallar(error, QStringLiteral("COMMIT"));
+    }
+    activa_ = false;
+}
+
+qint32 insertarConClaveSiguiente(QSqlDatabase& db, const QString& sqlMaximo, const QVariantList& valoresMaximo,
+                                 const std::function<void(qint32)>& insertar, int intentos)
+{
+    for (int intento = 1;; ++intento) {
+        const QVariant maximo = consultarValor(db, sqlMaximo, valoresMaximo);
+        // Null (no row yet) counts as 0, so a tenant's first key is 1.
+        const qint32 clave = (maximo.isNull() ? 0 : maximo.toInt()) + 1;
+        try {
+            insertar(clave);
+            return clave;
+        } catch (const ErrorBD& e) {
+            if (!esClaveDuplicada(e.error()) || intento >= intentos)
+                throw;
+        }
+    }
+}
+
+} // namespace nomencla

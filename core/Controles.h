@@ -1,0 +1,140 @@
+#pragma once
+// The standard controls of the dialogs, with the events the dialogs handle:
+// Change (any change of the text, also from code), KeyPress (the key as a
+// character code that the handler may change or cancel with 0), KeyUp, Click.
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <functional>
+
+class QKeyEvent;
+
+namespace nomencla {
+
+constexpr int vbKeyReturn = 13;
+constexpr int vbKeyEscape = 27;
+constexpr int vbKeyBack = 8;
+constexpr int vbKeyDown = 40;
+
+// The character code of a key press: 13 Enter, 27 Esc, 8 Backspace, 9 Tab,
+// the character's code for a printable key, 0 for keys without a character.
+int codigoTecla(const QKeyEvent* evento);
+
+// The Spanish locale of every date and number shown.
+QLocale localeEcuador();
+
+class CajaTexto : public QLineEdit {
+    Q_OBJECT
+public:
+    explicit CajaTexto(QWidget* parent = nullptr, int maxLength = 32767);
+    QString Text() const { return text(); }
+    void setTag(const QString& tag) { tag_ = tag; }
+    QString Tag() const { return tag_; }
+
+Q_SIGNALS:
+    void Change();
+    void KeyPress(int& KeyAscii);
+    void KeyUp(int KeyCode, int Shift);
+
+protected:
+    void keyPressEvent(QKeyEvent* evento) override;
+    void keyReleaseEvent(QKeyEvent* evento) override;
+
+private:
+    QString tag_;
+};
+
+// A text box of several lines (descriptions), limited to MaxLength characters
+// whether typed or pasted. Enter adds no line: it is a key like in a one-line box.
+class CajaTextoMultilinea : public QPlainTextEdit {
+    Q_OBJECT
+    Q_PROPERTY(QString text READ text WRITE setText NOTIFY Change)
+    Q_PROPERTY(int maxLength READ maxLength WRITE setMaxLength)
+public:
+    explicit CajaTextoMultilinea(QWidget* parent = nullptr, int maxLength = 32767);
+    QString text() const { return toPlainText(); }
+    void setText(const QString& texto);
+    int maxLength() const { return maxLength_; }
+    void setMaxLength(int n);
+
+Q_SIGNALS:
+    void Change();
+    void KeyPress(int& KeyAscii);
+
+protected:
+    void keyPressEvent(QKeyEvent* evento) override;
+    void insertFromMimeData(const QMimeData* origen) override;
+
+private:
+    int maxLength_;
+    QString anterior_;
+    void limitar();
+};
+
+class Etiqueta : public QLabel {
+    Q_OBJECT
+public:
+    explicit Etiqueta(const QString& texto, QWidget* parent = nullptr);
+    // 0xRRGGBB, or 0x8000000F for the system's button face.
+    void setBackColor(quint32 color);
+    quint32 BackColor() const { return color_; }
+
+private:
+    quint32 color_ = 0x8000000F;
+};
+
+constexpr quint32 colorNuevo = 0x80FF80;
+constexpr quint32 colorCaraBoton = 0x8000000F;
+
+// Drop-down list without free text; a number per entry (item data).
+class Combo : public QComboBox {
+    Q_OBJECT
+public:
+    explicit Combo(QWidget* parent = nullptr);
+    QString Text() const { return currentIndex() < 0 ? QString() : currentText(); }
+    // Selects the entry with that text; false (and nothing selected) when none has it.
+    bool setText(const QString& texto);
+    int ListIndex() const { return currentIndex(); }
+    void setListIndex(int i) { setCurrentIndex(i); }
+    int ListCount() const { return count(); }
+    qint64 ItemData(int i) const { return itemData(i).toLongLong(); }
+};
+
+class Casilla : public QCheckBox {
+    Q_OBJECT
+public:
+    explicit Casilla(const QString& texto, QWidget* parent = nullptr);
+    int Value() const { return isChecked() ? 1 : 0; }
+    void setValue(int v) { setChecked(v != 0); }
+
+Q_SIGNALS:
+    void Click(); // the value changed, by the user or by code
+};
+
+// Date picker in Spanish (es_EC), with a calendar.
+class SelectorFecha : public QDateEdit {
+    Q_OBJECT
+public:
+    explicit SelectorFecha(const QString& formato, QWidget* parent = nullptr);
+    QDate Value() const { return date(); }
+    void setValue(const QDate& fecha) { setDate(fecha); }
+
+Q_SIGNALS:
+    void Change();
+    void CallbackKeyDown();
+    void KeyPress(int& KeyAscii);
+
+protected:
+    void keyPressEvent(QKeyEvent* evento) override;
+};
+
+// Picks a file to open; an empty text when the user cancels. Tests replace
+// the chooser with one of their own.
+using ElectorArchivo = std::function<QString(QWidget* padre, const QString& titulo, const QString& filtro)>;
+QString elegirArchivo(QWidget* padre, const QString& titulo, const QString& filtro);
+void setElectorArchivo(ElectorArchivo elector); // empty: the standard file dialog again
+
+} // namespace nomencla

@@ -1,0 +1,50 @@
+#include "core/Mensajes.h"
+
+#include "core/BaseDatos.h"
+
+#include <QAbstractButton>
+#include <QMessageBox>
+
+using namespace Qt::StringLiterals;
+
+namespace nomencla {
+
+int MsgBox(QWidget* padre, const QString& texto, int estiloCaja, const QString& titulo)
+{
+    QMessageBox caja(padre);
+    caja.setWindowModality(Qt::ApplicationModal);
+    caja.setText(texto);
+    caja.setWindowTitle(titulo);
+    const bool siNo = (estiloCaja & 0x7) == 4;
+    switch (estiloCaja & 0x70) {
+    case 16: caja.setIcon(QMessageBox::Critical); break;
+    case 32: caja.setIcon(QMessageBox::Question); break;
+    case 48: caja.setIcon(QMessageBox::Warning); break;
+    case 64: caja.setIcon(QMessageBox::Information); break;
+    default: caja.setIcon(QMessageBox::NoIcon); break;
+    }
+    if (siNo) {
+        caja.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+        caja.setDefaultButton(QMessageBox::Yes);
+        caja.setEscapeButton(QMessageBox::No);
+        caja.button(QMessageBox::Yes)->setText(u"&Sí"_s);
+        caja.button(QMessageBox::No)->setText(u"&No"_s);
+    } else {
+        caja.setStandardButtons(QMessageBox::Ok);
+        caja.button(QMessageBox::Ok)->setText(u"Aceptar"_s);
+    }
+    const int respuesta = caja.exec();
+    if (siNo)
+        return respuesta == QMessageBox::Yes ? vbYes : vbNo;
+    return vbOK;
+}
+
+void mostrarErrorBD(QWidget* padre, const ErrorBD& error)
+{
+    QString texto = error.texto();
+    if (esConexionPerdida(error.error()))
+        texto = u"Se perdió la conexión con la base de datos. La operación no se realizó.\n\n"_s + texto;
+    MsgBox(padre, texto, estilo::Critico, u"Error de base de datos"_s);
+}
+
+} // namespace nomencla

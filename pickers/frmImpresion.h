@@ -1,0 +1,16 @@
+#pragma once
+// Not built yet: a placeholder dialog that only shows its caption.
+#include "core/Formulario.h"
+
+namespace nomencla {
+
+class frmImpresion : public Formulario {
+    Q_OBJECT
+public:
+    frmImpresion();
+
+protected:
+    void Disenar(QWidget* lienzo) override;
+};
+
+} // namespace nomencla

@@ -1,0 +1,79 @@
+#pragma once
+// What the tests share: a fresh database on the private server, a watcher
+// that reads and answers the message boxes, and a way to act inside a modal
+// dialog while the method that opened it waits.
+#include <QMessageBox>
+#include <QObject>
+#include <QPointer>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QString>
+#include <QTimer>
+#include <QVariant>
+#include <QtTest>
+#include <functional>
+
+namespace prueba {
+
+// A new database `nombre` (dropped first) with the schema loaded, open.
+QSqlDatabase baseNueva(const QString& nombre);
+// Another connection to the same database, as a second clerk.
+QSqlDatabase otraConexion(const QSqlDatabase& base, const QString& nombreConexion);
+// Runs statements (separated by ";\n"); fails the test on error.
+void ejecutarSql(QSqlDatabase& db, const QString& sql);
+// A single value.
+QVariant valor(QSqlDatabase& db, const QString& sql, const QVariantList& valores = {});
+// Rows as texts, cells joined by '|'.
+QStringList filas(QSqlDatabase& db, const QString& sql, const QVariantList& valores = {});
+
+struct Caja {
+    QString titulo;
+    QString texto;
+    QMessageBox::Icon icono = QMessageBox::NoIcon;
+    bool siNo = false;
+};
+
+// Watches for message boxes while it lives: records each one and answers it
+// with the next queued answer, or Ok (Yes/No boxes without a queued answer
+// are answered No and marked).
+class Cajas : public QObject {
+    Q_OBJECT
+public:
+    Cajas();
+    ~Cajas() override;
+    void responder(QMessageBox::StandardButton boton) { respuestas_.append(boton); }
+    QList<Caja> vistas;
+    bool sinRespuesta = false;
+    // The text of the last box seen ("" when none).
+    QString ultima() const { return vistas.isEmpty() ? QString() : vistas.last().texto; }
+    void limpiar() { vistas.clear(); sinRespuesta = false; }
+
+private:
+    QTimer timer_;
+    QList<QMessageBox::StandardButton> respuestas_;
+    QList<QPointer<QMessageBox>> atendidas_;
+    void revisar();
+};
+
+// Calls `pasos` with the dialog `nombre` once it is shown modally; after
+// `pasos` the dialog is closed if it is still open. Use it before calling the
+// method that opens the dialog.
+void alAbrir(const QString& nombre, std::function<void(QWidget*)> pasos);
+
+// The dialog's control `nombre`.
+template <class T> T* control(QWidget* dialogo, const QString& nombre)
+{
+    T* w = dialogo->findChild<T*>(nombre);
+    if (!w)
+        qWarning("control %s not found", qPrintable(nombre));
+    return w;
+}
+
+// Types text into a widget, as keys.
+void teclear(QWidget* w, const QString& texto);
+// Presses one key on a widget.
+void tecla(QWidget* w, Qt::Key k);
+// Clicks a button by name.
+void pulsar(QWidget* dialogo, const QString& nombre);
+
+} // namespace prueba
