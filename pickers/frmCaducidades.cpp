@@ -57,7 +57,8 @@ void frmCaducidades::Disenar(QWidget* lienzo)
     GR->setSearchcolumn(-1);
     GR->setShowrownumbers(true);
     GR->setTotalslineshow(false);
-    GR->setColumnFormat(2, u"dd-MMM-yyyy"_s);
+    // Expiry in the short Ecuadorian form, which fits its column whatever the month.
+    GR->setColumnFormat(2, u"dd/MM/yyyy"_s);
     GR->setMinimumSize(560, 300);
 
     auto* filtros = new QHBoxLayout;
