@@ -108,7 +108,7 @@ Alfarje::Alfarje(QWidget* parent) : QTableView(parent), modelo_(new ModeloAlfarj
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setMinimumSectionSize(4);
-    horizontalHeader()->setStretchLastSection(false);
+    horizontalHeader()->setStretchLastSection(true); // the last visible column takes the room left
 
     // Fixed row heights: nothing is measured per row, however many there are.
     QHeaderView* v = verticalHeader();
