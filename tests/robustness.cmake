@@ -1,0 +1,2 @@
+nomencla_prueba(prueba_fallos prueba_fallos.cpp)
+nomencla_prueba(prueba_concurrencia prueba_concurrencia.cpp)
