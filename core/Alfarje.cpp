@@ -240,6 +240,11 @@ void Alfarje::AddItem(const QString& texto)
     modelo_->agregarFila(texto.split(QChar(9)));
 }
 
+void Alfarje::AddItem(const QStringList& celdas)
+{
+    modelo_->agregarFila(celdas);
+}
+
 void Alfarje::RemoveItem()
 {
     const int f = Row();
