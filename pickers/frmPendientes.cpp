@@ -31,17 +31,20 @@ void frmPendientes::Form_Load()
 {
     M().ValorDocumento = 0;
     GR->setRedraw(false);
+    // Before any call has stored a company the key is empty text, not NULL:
+    // the documents kept with an empty key are then the ones listed.
+    const QString idEmp = M().IdEmp.isNull() ? u""_s : M().IdEmp;
     operacion([&] {
         // No ORDER BY: the rows come in the store's own order.
         QSqlQuery q = ejecutar(M().ConexionAcces, u"SELECT distinct cod, numdoc from BkUpfac WHERE id=? AND tip=?"_s,
-                               {M().IdEmp, qint64(M().TipoPendiente)});
+                               {idEmp, qint64(M().TipoPendiente)});
         while (q.next())
             GR->AddItem(q.value(0).toString() + u'\t' + q.value(1).toString());
         if (q.lastError().isValid())
             throw ErrorBD(q.lastError());
     });
-    GR->setRow(0);
     GR->setRedraw(true);
+    GR->setRow(0);
 }
 
 void frmPendientes::Elegir()
