@@ -80,12 +80,12 @@ void frmSubProveedor::Disenar(QWidget* lienzo)
 void frmSubProveedor::Form_Load()
 {
     CodigoActual = 0;
+    M().HuboCambios = false;
     if (!LeerProveedor()) {
         Unload();
         return;
     }
     CargarLista();
-    M().HuboCambios = false;
 }
 
 // A supplier key that names no supplier is told, and the dialog doesn't
