@@ -6,17 +6,18 @@
 #include "core/Mensajes.h"
 #include "core/Module1.h"
 #include "core/Pulsante.h"
+#include "core/clsGrillas.h"
 
 #include <QHBoxLayout>
+#include <QVBoxLayout>
 #include <QStyle>
 
 using namespace Qt::StringLiterals;
 
 namespace nomencla {
 
-EstructuraEmpresa::EstructuraEmpresa(const QString& forma, const QString& titulo, QString bannerNuevo,
-                                     QString bannerExistente)
-    : Formulario(forma, titulo, false), bannerNuevo_(std::move(bannerNuevo)), bannerExistente_(std::move(bannerExistente))
+EstructuraEmpresa::EstructuraEmpresa(DatosEstructura datos)
+    : Formulario(datos.forma, datos.titulo, false), d_(std::move(datos))
 {
 }
 
@@ -41,9 +42,10 @@ Etiqueta* EstructuraEmpresa::crearEtiqueta(QWidget* lienzo, int indice, const QS
     return etiqueta;
 }
 
-Etiqueta* EstructuraEmpresa::crearBanner(QWidget* lienzo)
+void EstructuraEmpresa::disponer(QWidget* lienzo, QVBoxLayout* raiz, QLayout* campos, const QString& formato,
+                                  const QString& etiquetaLista, const QList<QWidget*>& orden)
 {
-    Label2 = new Etiqueta(bannerNuevo_, lienzo);
+    Label2 = new Etiqueta(d_.bannerNuevo, lienzo);
     Label2->setObjectName(u"Label2"_s);
     Label2->setAlignment(Qt::AlignCenter);
     Label2->setFrameShape(QFrame::Panel);
@@ -53,11 +55,7 @@ Etiqueta* EstructuraEmpresa::crearBanner(QWidget* lienzo)
     letra.setBold(true);
     Label2->setFont(letra);
     Label2->setBackColor(colorNuevo);
-    return Label2;
-}
 
-Alfarje* EstructuraEmpresa::crearGrilla(QWidget* lienzo, const QString& formato)
-{
     GR = new Alfarje(lienzo);
     GR->setObjectName(u"GR"_s);
     GR->setFormatocolumnas(formato);
@@ -68,11 +66,7 @@ Alfarje* EstructuraEmpresa::crearGrilla(QWidget* lienzo, const QString& formato)
         if (GR->Row() >= 0)
             MostrarRegistro();
     });
-    return GR;
-}
 
-QHBoxLayout* EstructuraEmpresa::crearBotones(QWidget* lienzo)
-{
     struct Boton {
         QString tx;
         QStyle::StandardPixmap icono;
@@ -94,7 +88,21 @@ QHBoxLayout* EstructuraEmpresa::crearBotones(QWidget* lienzo)
         fila->addWidget(b);
     }
     Bt[1]->setEnabled(false);
-    return fila;
+
+    raiz->addWidget(Label2);
+    raiz->addLayout(campos);
+    raiz->addWidget(crearEtiqueta(lienzo, 0, etiquetaLista, GR));
+    raiz->addWidget(GR, 1);
+    raiz->addLayout(fila);
+
+    QList<QWidget*> cadena = orden;
+    cadena << GR;
+    for (Pulsante* b : std::as_const(Bt))
+        cadena << b;
+    for (qsizetype i = 0; i + 1 < cadena.size(); ++i)
+        setTabOrder(cadena[i], cadena[i + 1]);
+    if (!orden.isEmpty())
+        orden.first()->setFocus();
 }
 
 void EstructuraEmpresa::buscarAlTeclear(int indice, int columna)
@@ -126,7 +134,7 @@ void EstructuraEmpresa::Bt_Click(int Index)
 
 void EstructuraEmpresa::modoNuevo()
 {
-    Label2->setText(bannerNuevo_);
+    Label2->setText(d_.bannerNuevo);
     Label2->setBackColor(colorNuevo);
     Bt[1]->setEnabled(false);
 }
@@ -134,7 +142,7 @@ void EstructuraEmpresa::modoNuevo()
 void EstructuraEmpresa::modoExistente(bool quitable)
 {
     Bt[1]->setEnabled(quitable);
-    Label2->setText(bannerExistente_);
+    Label2->setText(d_.bannerExistente);
     Label2->setBackColor(colorCaraBoton);
 }
 
@@ -163,15 +171,43 @@ void EstructuraEmpresa::Quitar()
     bool permitido = false;
     if (!operacion([&] { permitido = PuedeQuitar(); }) || !permitido)
         return;
-    if (MsgBox(this, PreguntaQuitar(), estilo::ExclamacionSiNo, u"CONFIRME"_s) != vbYes)
+    const QString pregunta = u"Está seguro que desea quitar "_s + d_.objetoQuitar + u" ''"_s
+        + Tx[d_.cajaQuitar]->text() + u"'' de la base de datos?"_s;
+    if (MsgBox(this, pregunta, estilo::ExclamacionSiNo, u"CONFIRME"_s) != vbYes)
         return;
-    if (!operacion([&] { ejecutar(M().Conexion, sqlQuitar(), {CodigoActual, M().IdEmp}); }))
+    if (!operacion([&] { ejecutar(M().Conexion, d_.sqlQuitar, {CodigoActual, M().IdEmp}); }))
         return;
     M().HuboCambios = true;
     if (!CargarLista())
         return;
     Nuevo();
     MsgBox(this, u"La operación se realizó correctamente!"_s, estilo::Informacion, u"Listo"_s);
+}
+
+bool EstructuraEmpresa::CargarLista()
+{
+    return operacion([this] {
+        M().grillas().LlenarGrilla(M().Conexion, GR, d_.sqlLista, {M().IdEmp}, d_.camposLista, false, true);
+    });
+}
+
+QVariantList EstructuraEmpresa::textos(int n) const
+{
+    QVariantList r;
+    for (int i = 0; i < n; ++i)
+        r.append(Tx[i]->text().trimmed());
+    return r;
+}
+
+void EstructuraEmpresa::insertarOActualizar(const QString& insertar, const QVariantList& valoresInsertar,
+                                            const QString& actualizar, QVariantList valoresActualizar)
+{
+    if (CodigoActual <= 0) {
+        ejecutar(M().Conexion, insertar, valoresInsertar);
+    } else {
+        valoresActualizar << CodigoActual << M().IdEmp;
+        ejecutar(M().Conexion, actualizar, valoresActualizar);
+    }
 }
 
 void EstructuraEmpresa::limpiarCampos()

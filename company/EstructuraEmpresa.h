@@ -9,9 +9,12 @@
 // states what differs: its fields, its checks and its statements.
 #include "core/Formulario.h"
 
+#include <QList>
 #include <QVector>
 
 class QHBoxLayout;
+class QLayout;
+class QVBoxLayout;
 
 namespace nomencla {
 
@@ -20,11 +23,23 @@ class CajaTexto;
 class Etiqueta;
 class Pulsante;
 
+// What a dialog of the family states as data.
+struct DatosEstructura {
+    QString forma;
+    QString titulo;
+    QString bannerNuevo;      // the banner's two captions
+    QString bannerExistente;
+    QString sqlQuitar;        // "... WHERE cod=? AND id=?", given the key and the tenant
+    QString objetoQuitar;     // "la sucursal": what the removal's question names
+    int cajaQuitar = 0;       // the box whose text the question quotes, untrimmed
+    QString sqlLista;         // the list, "... WHERE  id=? ...", and its fields by column
+    QString camposLista;
+};
+
 class EstructuraEmpresa : public Formulario {
     Q_OBJECT
 public:
-    // `bannerNuevo` and `bannerExistente` are the banner's two captions.
-    EstructuraEmpresa(const QString& forma, const QString& titulo, QString bannerNuevo, QString bannerExistente);
+    explicit EstructuraEmpresa(DatosEstructura datos);
 
     void Guardar();
     void Quitar();
@@ -41,9 +56,11 @@ protected:
     // "Label1(n)" names the box it stands before (its access key moves there).
     CajaTexto* crearTx(QWidget* lienzo, int indice, int maxLength, bool centrada = false);
     Etiqueta* crearEtiqueta(QWidget* lienzo, int indice, const QString& texto, QWidget* companero = nullptr);
-    Etiqueta* crearBanner(QWidget* lienzo);
-    Alfarje* crearGrilla(QWidget* lienzo, const QString& formato);
-    QHBoxLayout* crearBotones(QWidget* lienzo);
+    // Adds to `raiz` the banner, the fields, the list under its caption
+    // `etiquetaLista` and the buttons. The tab order runs through `orden`,
+    // then the list and the buttons; the first of `orden` has the focus.
+    void disponer(QWidget* lienzo, QVBoxLayout* raiz, QLayout* campos, const QString& formato,
+                  const QString& etiquetaLista, const QList<QWidget*>& orden);
     // Typing in Tx(indice) selects the first row whose cell in `columna`
     // begins with the text; no match selects nothing. A text put there by a
     // pick doesn't search, so the picked row stays selected and in the fields.
@@ -62,11 +79,14 @@ protected:
     virtual void trasEscribir() {}
     // Checks before the removal's question; false when refused (told).
     virtual bool PuedeQuitar() { return true; }
-    virtual QString PreguntaQuitar() const = 0;
-    // The removal: "... WHERE cod=? AND id=?", given the key and the tenant.
-    virtual QString sqlQuitar() const = 0;
     // Fills GR; false when the database failed (told).
-    virtual bool CargarLista() = 0;
+    virtual bool CargarLista();
+    // The trimmed texts of Tx(0) to Tx(n-1).
+    QVariantList textos(int n) const;
+    // The insert for a new record, else the update, which gets the key and
+    // the tenant after `valoresActualizar` ("... WHERE cod=? AND id=?").
+    void insertarOActualizar(const QString& insertar, const QVariantList& valoresInsertar, const QString& actualizar,
+                             QVariantList valoresActualizar);
     // Empties the fields for a new record; by default every box.
     virtual void limpiarCampos();
     virtual void MostrarRegistro() = 0;
@@ -75,8 +95,7 @@ protected:
     void sinBuscar(const std::function<void()>& mostrar);
 
 private:
-    QString bannerNuevo_;
-    QString bannerExistente_;
+    const DatosEstructura d_;
     bool mostrando_ = false;
     void Bt_Click(int Index);
 };

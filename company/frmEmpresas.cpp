@@ -74,7 +74,8 @@ void CuadroImagen::keyPressEvent(QKeyEvent* evento)
 }
 
 frmEmpresas::frmEmpresas()
-    : EstructuraEmpresa(u"frmEmpresas"_s, u"Empresas"_s, u"CREANDO NUEVA EMPRESA"_s, u"MODIFICANDO EMPRESA EXISTENTE"_s)
+    : EstructuraEmpresa({u"frmEmpresas"_s, u"Empresas"_s, u"CREANDO NUEVA EMPRESA"_s, u"MODIFICANDO EMPRESA EXISTENTE"_s,
+                         u"UPDATE Empresas SET est=0 WHERE cod=? AND id=?"_s, u"la Empresa"_s, 0, {}, {}})
 {
 }
 
@@ -150,27 +151,9 @@ void frmEmpresas::Disenar(QWidget* lienzo)
     arriba->addSpacing(8);
     arriba->addLayout(logo);
 
-    raiz->addWidget(crearBanner(lienzo));
-    raiz->addLayout(arriba);
-    auto* grilla = crearGrilla(lienzo, u"< EMPRESA                                           |<ACTIVIDAD           |^ARTESANO |^SERV. ELEC.|.|.|.|.|.|.|.|.|.|."_s);
-    raiz->addWidget(crearEtiqueta(lienzo, 0, u"&Lista de sucursales registradas"_s, grilla));
-    raiz->addWidget(grilla, 1);
-    raiz->addLayout(crearBotones(lienzo));
-
-    setTabOrder(tx0, Combo4);
-    setTabOrder(Combo4, tx2);
-    setTabOrder(tx2, tx3);
-    setTabOrder(tx3, tx4);
-    setTabOrder(tx4, tx5);
-    setTabOrder(tx5, Check1[0]);
-    setTabOrder(Check1[0], Check1[1]);
-    setTabOrder(Check1[1], tx6);
-    setTabOrder(tx6, P1);
-    setTabOrder(P1, grilla);
-    setTabOrder(grilla, Bt[0]);
-    for (int i = 0; i < 3; ++i)
-        setTabOrder(Bt[i], Bt[i + 1]);
-    tx0->setFocus();
+    disponer(lienzo, raiz, arriba,
+             u"< EMPRESA                                           |<ACTIVIDAD           |^ARTESANO |^SERV. ELEC.|.|.|.|.|.|.|.|.|.|."_s,
+             u"&Lista de sucursales registradas"_s, {tx0, Combo4, tx2, tx3, tx4, tx5, Check1[0], Check1[1], tx6, P1});
 }
 
 void frmEmpresas::Form_Load()
@@ -286,16 +269,6 @@ bool frmEmpresas::PuedeQuitar()
         return false;
     }
     return true;
-}
-
-QString frmEmpresas::PreguntaQuitar() const
-{
-    return u"Está seguro que desea quitar la Empresa ''"_s + Tx[0]->text() + u"'' de la base de datos?"_s;
-}
-
-QString frmEmpresas::sqlQuitar() const
-{
-    return u"UPDATE Empresas SET est=0 WHERE cod=? AND id=?"_s;
 }
 
 void frmEmpresas::limpiarCampos()

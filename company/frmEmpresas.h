@@ -44,8 +44,6 @@ protected:
     bool Escribir() override;
     void trasEscribir() override;
     bool PuedeQuitar() override;
-    QString PreguntaQuitar() const override;
-    QString sqlQuitar() const override;
     bool CargarLista() override;
     void limpiarCampos() override;
     void MostrarRegistro() override;

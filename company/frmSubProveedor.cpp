@@ -6,7 +6,6 @@
 #include "core/Mensajes.h"
 #include "core/Module1.h"
 #include "core/Pulsante.h"
-#include "core/clsGrillas.h"
 
 #include <QGridLayout>
 #include <QVBoxLayout>
@@ -16,8 +15,11 @@ using namespace Qt::StringLiterals;
 namespace nomencla {
 
 frmSubProveedor::frmSubProveedor()
-    : EstructuraEmpresa(u"frmSubProveedor"_s, u"Administración de subproveedores"_s, u"CREANDO NUEVO REGISTRO"_s,
-                        u"MODIFICANDO REGISTRO EXISTENTE"_s)
+    : EstructuraEmpresa({u"frmSubProveedor"_s, u"Administración de subproveedores"_s, u"CREANDO NUEVO REGISTRO"_s,
+                         u"MODIFICANDO REGISTRO EXISTENTE"_s, u"UPDATE SubProveedor SET est=0 WHERE cod=? AND id=?"_s,
+                         u"al subproveedor"_s, 3,
+                         u"SELECT cin,ruc,raz,dir,cod FROM SubProveedor WHERE  id=? AND est<>0 ORDER BY cin"_s,
+                         u"cin,ruc,raz,dir,cod"_s})
 {
 }
 
@@ -57,24 +59,10 @@ void frmSubProveedor::Disenar(QWidget* lienzo)
 
     raiz->addWidget(Lbl[0]);
     raiz->addWidget(Lbl[1]);
-    raiz->addWidget(crearBanner(lienzo));
-    raiz->addLayout(campos);
-    auto* grilla = crearGrilla(
-        lienzo, u"<CODIGO   |<NUMERO RUC |<RAZON SOCIAL                                 |<DIRECCIÓN                  |."_s);
-    raiz->addWidget(crearEtiqueta(lienzo, 0, u"&Lista de subproveedores registradas"_s, grilla));
-    raiz->addWidget(grilla, 1);
-    raiz->addLayout(crearBotones(lienzo));
-
+    disponer(lienzo, raiz, campos,
+             u"<CODIGO   |<NUMERO RUC |<RAZON SOCIAL                                 |<DIRECCIÓN                  |."_s,
+             u"&Lista de subproveedores registradas"_s, {tx1, tx0, tx2, tx3});
     buscarAlTeclear(1, 1);
-
-    setTabOrder(tx1, tx0);
-    setTabOrder(tx0, tx2);
-    setTabOrder(tx2, tx3);
-    setTabOrder(tx3, grilla);
-    setTabOrder(grilla, Bt[0]);
-    for (int i = 0; i < 3; ++i)
-        setTabOrder(Bt[i], Bt[i + 1]);
-    tx1->setFocus();
 }
 
 void frmSubProveedor::Form_Load()
@@ -108,15 +96,6 @@ bool frmSubProveedor::LeerProveedor()
     return hallado;
 }
 
-bool frmSubProveedor::CargarLista()
-{
-    return operacion([this] {
-        M().grillas().LlenarGrilla(M().Conexion, GR,
-                                   u"SELECT cin,ruc,raz,dir,cod FROM SubProveedor WHERE  id=? AND est<>0 ORDER BY cin"_s,
-                                   {M().IdEmp}, u"cin,ruc,raz,dir,cod"_s, false, true);
-    });
-}
-
 bool frmSubProveedor::Validar()
 {
     // The address may be left empty.
@@ -128,30 +107,11 @@ bool frmSubProveedor::Validar()
 
 bool frmSubProveedor::Escribir()
 {
-    QVariantList valores;
-    for (int i = 0; i < 4; ++i)
-        valores.append(Tx[i]->text().trimmed());
-    if (CodigoActual <= 0) {
-        valores.prepend(qint64(M().CodigoProveedor));
-        valores.prepend(M().IdEmp);
-        ejecutar(M().Conexion, u"INSERT INTO SubProveedor (ID,prov,cin,ruc,raz,dir,est) VALUES (?,?, ?,?,?,?,1)"_s,
-                 valores);
-    } else {
-        valores << CodigoActual << M().IdEmp;
-        ejecutar(M().Conexion, u"UPDATE SubProveedor SET cin=?, ruc=?, raz=?, dir=? WHERE cod=? AND id=?"_s, valores);
-    }
+    // The supplier is written at the insert only: an edit keeps the one it had.
+    insertarOActualizar(u"INSERT INTO SubProveedor (ID,prov,cin,ruc,raz,dir,est) VALUES (?,?, ?,?,?,?,1)"_s,
+                        QVariantList{M().IdEmp, qint64(M().CodigoProveedor)} + textos(4),
+                        u"UPDATE SubProveedor SET cin=?, ruc=?, raz=?, dir=? WHERE cod=? AND id=?"_s, textos(4));
     return true;
-}
-
-QString frmSubProveedor::PreguntaQuitar() const
-{
-    // The question names the sub-supplier by the address in its box.
-    return u"Está seguro que desea quitar al subproveedor ''"_s + Tx[3]->text() + u"'' de la base de datos?"_s;
-}
-
-QString frmSubProveedor::sqlQuitar() const
-{
-    return u"UPDATE SubProveedor SET est=0 WHERE cod=? AND id=?"_s;
 }
 
 void frmSubProveedor::MostrarRegistro()

@@ -16,9 +16,6 @@ protected:
     void Form_Load() override;
     bool Validar() override;
     bool Escribir() override;
-    QString PreguntaQuitar() const override;
-    QString sqlQuitar() const override;
-    bool CargarLista() override;
     void MostrarRegistro() override;
 
 private:

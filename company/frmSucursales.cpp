@@ -1,12 +1,10 @@
 #include "company/frmSucursales.h"
 
 #include "core/Alfarje.h"
-#include "core/BaseDatos.h"
 #include "core/Controles.h"
 #include "core/Mensajes.h"
 #include "core/Module1.h"
 #include "core/Pulsante.h"
-#include "core/clsGrillas.h"
 #include "core/clsServicios.h"
 
 #include <QGridLayout>
@@ -17,8 +15,11 @@ using namespace Qt::StringLiterals;
 namespace nomencla {
 
 frmSucursales::frmSucursales()
-    : EstructuraEmpresa(u"frmSucursales"_s, u"Administración de sucursales"_s, u"CREANDO NUEVA SUCURSAL"_s,
-                        u"MODIFICANDO SUCURSAL EXISTENTE"_s)
+    : EstructuraEmpresa({u"frmSucursales"_s, u"Administración de sucursales"_s, u"CREANDO NUEVA SUCURSAL"_s,
+                         u"MODIFICANDO SUCURSAL EXISTENTE"_s, u"UPDATE Sucursales SET est=0 WHERE cod=? AND id=?"_s,
+                         u"la sucursal"_s, 1,
+                         u"SELECT emp,nom,ciu,dir,tel,cod,est FROM Sucursales WHERE  id=? AND est<>0 ORDER BY ciu, nom"_s,
+                         u"emp,nom,ciu,dir,tel,cod,est"_s})
 {
 }
 
@@ -50,26 +51,11 @@ void frmSucursales::Disenar(QWidget* lienzo)
     campos->setColumnMinimumWidth(1, 160);
     campos->setColumnMinimumWidth(3, 240);
 
-    raiz->addWidget(crearBanner(lienzo));
-    raiz->addLayout(campos);
-    auto* grilla = crearGrilla(
-        lienzo, u"< EMPRESA              |<NOMBRE SUCURSAL|<CIUDAD     |<DIRECCIÓN                                |.|.|."_s);
-    raiz->addWidget(crearEtiqueta(lienzo, 0, u"&Lista de sucursales registradas"_s, grilla));
-    raiz->addWidget(grilla, 1);
-    raiz->addLayout(crearBotones(lienzo));
-
+    disponer(lienzo, raiz, campos,
+             u"< EMPRESA              |<NOMBRE SUCURSAL|<CIUDAD     |<DIRECCIÓN                                |.|.|."_s,
+             u"&Lista de sucursales registradas"_s, {Cmb, tx0, tx1, tx2, tx3});
     // Typing an address looks for it among the cities, the list's order.
     buscarAlTeclear(2, 2);
-
-    setTabOrder(Cmb, tx0);
-    setTabOrder(tx0, tx1);
-    setTabOrder(tx1, tx2);
-    setTabOrder(tx2, tx3);
-    setTabOrder(tx3, grilla);
-    setTabOrder(grilla, Bt[0]);
-    for (int i = 0; i < 3; ++i)
-        setTabOrder(Bt[i], Bt[i + 1]);
-    Cmb->setFocus();
 }
 
 void frmSucursales::Form_Load()
@@ -80,15 +66,6 @@ void frmSucursales::Form_Load()
     operacion([this] {
         M().servicios().LlenarCombo(M().Conexion, u"SELECT emp,cod FROM empresas where id=? and est=1 order by emp"_s,
                                     {M().IdEmp}, Cmb, u"emp"_s, u"cod"_s, true, true, QString());
-    });
-}
-
-bool frmSucursales::CargarLista()
-{
-    return operacion([this] {
-        M().grillas().LlenarGrilla(M().Conexion, GR,
-                                   u"SELECT emp,nom,ciu,dir,tel,cod,est FROM Sucursales WHERE  id=? AND est<>0 ORDER BY ciu, nom"_s,
-                                   {M().IdEmp}, u"emp,nom,ciu,dir,tel,cod,est"_s, false, true);
     });
 }
 
@@ -111,27 +88,11 @@ bool frmSucursales::Validar()
 
 bool frmSucursales::Escribir()
 {
-    QVariantList valores{Cmb->Text()};
-    for (int i = 0; i < 4; ++i)
-        valores.append(Tx[i]->text().trimmed());
-    if (CodigoActual <= 0) {
-        valores.prepend(M().IdEmp);
-        ejecutar(M().Conexion, u"INSERT INTO Sucursales (ID,emp,ciu,nom,dir,tel,est) VALUES (?,?,?,?,?,?,1)"_s, valores);
-    } else {
-        valores << CodigoActual << M().IdEmp;
-        ejecutar(M().Conexion, u"UPDATE Sucursales SET emp=?,ciu=?, nom=?, dir=?, tel=? WHERE cod=? AND id=?"_s, valores);
-    }
+    const QVariantList propios = QVariantList{Cmb->Text()} + textos(4);
+    insertarOActualizar(u"INSERT INTO Sucursales (ID,emp,ciu,nom,dir,tel,est) VALUES (?,?,?,?,?,?,1)"_s,
+                        QVariantList{M().IdEmp} + propios,
+                        u"UPDATE Sucursales SET emp=?,ciu=?, nom=?, dir=?, tel=? WHERE cod=? AND id=?"_s, propios);
     return true;
-}
-
-QString frmSucursales::PreguntaQuitar() const
-{
-    return u"Está seguro que desea quitar la sucursal ''"_s + Tx[1]->text() + u"'' de la base de datos?"_s;
-}
-
-QString frmSucursales::sqlQuitar() const
-{
-    return u"UPDATE Sucursales SET est=0 WHERE cod=? AND id=?"_s;
 }
 
 void frmSucursales::MostrarRegistro()

@@ -21,11 +21,6 @@ using nomencla::Alfarje;
 
 namespace {
 
-QLineEdit* tx(QWidget* d, int i)
-{
-    return control<QLineEdit>(d, u"Tx(%1)"_s.arg(i));
-}
-
 // Fills the fields that a save requires.
 void llenar(QWidget* d, const QString& nombre)
 {

@@ -5,7 +5,15 @@
 
 #include "core/Alfarje.h"
 
+#include <QLineEdit>
+
 namespace prueba {
+
+// The dialog's text box Tx(i).
+inline QLineEdit* tx(QWidget* d, int i)
+{
+    return control<QLineEdit>(d, QStringLiteral("Tx(%1)").arg(i));
+}
 
 inline int filaCon(nomencla::Alfarje* gr, const QString& texto, int columna = 0)
 {

@@ -11,15 +11,6 @@ using namespace Qt::StringLiterals;
 using namespace prueba;
 using nomencla::Alfarje;
 
-namespace {
-
-QLineEdit* tx(QWidget* d, int i)
-{
-    return control<QLineEdit>(d, u"Tx(%1)"_s.arg(i));
-}
-
-} // namespace
-
 class PruebaSucursales : public QObject {
     Q_OBJECT
     QSqlDatabase db;
