@@ -1,59 +1,16 @@
 // The coded lists (categories, positions, SRI documents and supports),
 // driven through their controls as a clerk would, the rows checked after.
-#include "tests/support/Prueba.h"
+#include "tests/codificadas_comun.h"
 
-#include "core/Alfarje.h"
-#include "core/Controles.h"
 #include "core/Module1.h"
 
 #include <nomencla/clsNomencla.h>
 
-#include <QAbstractButton>
-#include <QApplication>
 #include <QLineEdit>
 
 using namespace Qt::StringLiterals;
 using namespace prueba;
 using nomencla::Alfarje;
-using nomencla::Etiqueta;
-
-namespace {
-
-void dobleClic(Alfarje* gr, int fila)
-{
-    QTest::mouseDClick(gr->viewport(), Qt::LeftButton, {}, gr->visualRect(gr->model()->index(fila, 0)).center());
-}
-
-QString textoDe(QWidget* d, const QString& nombre)
-{
-    return control<QWidget>(d, nombre)->property("text").toString();
-}
-
-void escribir(QWidget* d, const QString& nombre, const QString& texto)
-{
-    QWidget* w = control<QWidget>(d, nombre);
-    w->setFocus();
-    teclear(w, texto);
-}
-
-// Mode of the fields, as the user sees it.
-void modoNuevo(QWidget* d, const QString& banner)
-{
-    auto* l2 = control<Etiqueta>(d, u"Label2"_s);
-    QCOMPARE(l2->text(), banner);
-    QCOMPARE(l2->BackColor(), nomencla::colorNuevo);
-    QVERIFY(!control<QAbstractButton>(d, u"Bt(1)"_s)->isEnabled());
-}
-
-void modoExistente(QWidget* d, const QString& banner)
-{
-    auto* l2 = control<Etiqueta>(d, u"Label2"_s);
-    QCOMPARE(l2->text(), banner);
-    QCOMPARE(l2->BackColor(), nomencla::colorCaraBoton);
-    QVERIFY(control<QAbstractButton>(d, u"Bt(1)"_s)->isEnabled());
-}
-
-} // namespace
 
 class PruebaListasCodificadas : public QObject {
     Q_OBJECT

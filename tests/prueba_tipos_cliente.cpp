@@ -1,27 +1,18 @@
 // Customer types: the coded list with three filtered numeric boxes.
-#include "tests/support/Prueba.h"
+#include "tests/codificadas_comun.h"
 
 #include "catalogues/frmLsTipoCli.h"
-#include "core/Alfarje.h"
-#include "core/Controles.h"
 
 #include <nomencla/clsNomencla.h>
 
-#include <QAbstractButton>
 #include <QLineEdit>
 #include <QLocale>
 
 using namespace Qt::StringLiterals;
 using namespace prueba;
 using nomencla::Alfarje;
-using nomencla::Etiqueta;
 
 namespace {
-
-void dobleClic(Alfarje* gr, int fila)
-{
-    QTest::mouseDClick(gr->viewport(), Qt::LeftButton, {}, gr->visualRect(gr->model()->index(fila, 0)).center());
-}
 
 QLineEdit* caja(QWidget* d, int i)
 {
@@ -66,7 +57,7 @@ private Q_SLOTS:
         alAbrir(u"frmLsTipoCli"_s, [&](QWidget* d) {
             auto* gr = control<Alfarje>(d, u"GR"_s);
             QCOMPARE(d->windowTitle(), u"Tipos de clientes"_s);
-            QCOMPARE(control<Etiqueta>(d, u"Label2"_s)->text(), u"CREANDO NUEVO TIPO"_s);
+            modoNuevo(d, u"CREANDO NUEVO TIPO"_s);
 
             // Credit and term take whole numbers of up to six digits.
             teclear(caja(d, 2), u"15a.00,"_s);
@@ -107,10 +98,9 @@ private Q_SLOTS:
             // The pick shows the figures as one would type them.
             dobleClic(gr, 1);
             QCOMPARE(caja(d, 0)->text(), u"Mayorista"_s);
-            fila << caja(d, 0)->text() << control<QWidget>(d, u"Tx(1)"_s)->property("text").toString()
+            fila << caja(d, 0)->text() << textoDe(d, u"Tx(1)"_s)
                  << caja(d, 2)->text() << caja(d, 3)->text() << caja(d, 4)->text();
-            QCOMPARE(control<Etiqueta>(d, u"Label2"_s)->text(), u"MODIFICANDO TIPO EXISTENTE"_s);
-            QCOMPARE(control<Etiqueta>(d, u"Label2"_s)->BackColor(), nomencla::colorCaraBoton);
+            modoExistente(d, u"MODIFICANDO TIPO EXISTENTE"_s);
             caja(d, 4)->clear();
             teclear(caja(d, 4), u"7,25"_s);
             pulsar(d, u"Bt(0)"_s);
@@ -141,8 +131,7 @@ private Q_SLOTS:
             pulsar(d, u"Bt(1)"_s);
             QCOMPARE(cajas.vistas.last().titulo, u"AVISO"_s);
             QCOMPARE(cajas.ultima(), u"No se puede quitar el tipo ''Especial'' debido a que se encuentra asignado a uno o mas clientes!"_s);
-            QVERIFY(control<QAbstractButton>(d, u"Bt(1)"_s)->isEnabled());
-            QCOMPARE(control<Etiqueta>(d, u"Label2"_s)->text(), u"MODIFICANDO TIPO EXISTENTE"_s);
+            modoExistente(d, u"MODIFICANDO TIPO EXISTENTE"_s);
 
             dobleClic(gr, 0);
             caja(d, 2)->clear();
@@ -155,7 +144,7 @@ private Q_SLOTS:
                      u"Está seguro que desea quitar el tipo ''Corporativo'' de la base de datos?"_s);
             QCOMPARE(cajas.ultima(), u"La operación se realizó correctamente!"_s);
             QCOMPARE(gr->RowCount(), 1);
-            QVERIFY(!control<QAbstractButton>(d, u"Bt(1)"_s)->isEnabled());
+            modoNuevo(d, u"CREANDO NUEVO TIPO"_s);
             QCOMPARE(caja(d, 2)->text(), QString());
         });
         QVERIFY(nomencla.TipoClientes(u"1"_s, db));
