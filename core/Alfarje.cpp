@@ -210,6 +210,8 @@ void Alfarje::setSearchcolumn(int columna) { columnaBusqueda_ = columna; }
 
 qint32 Alfarje::Row() const
 {
+    if (modelo_->suspendido())
+        return filaPendiente_;
     const QItemSelection s = selectionModel()->selection();
     if (s.isEmpty())
         return -1;
@@ -218,7 +220,12 @@ qint32 Alfarje::Row() const
 
 void Alfarje::setRow(qint32 fila)
 {
-    if (fila < 0 || fila >= modelo_->filas() || modelo_->suspendido()) {
+    if (modelo_->suspendido()) {
+        // Applied when repainting resumes.
+        filaPendiente_ = fila >= 0 && fila < modelo_->filas() ? fila : -1;
+        return;
+    }
+    if (fila < 0 || fila >= modelo_->filas()) {
         clearSelection();
         return;
     }
@@ -267,9 +274,17 @@ void Alfarje::ClearSelection() { clearSelection(); }
 void Alfarje::setRedraw(bool repintar)
 {
     if (repintar) {
+        const bool estaba = modelo_->suspendido();
         modelo_->reanudarAvisos();
         setUpdatesEnabled(true);
+        if (estaba) {
+            const int fila = filaPendiente_;
+            filaPendiente_ = -1;
+            setRow(fila);
+        }
     } else {
+        if (!modelo_->suspendido())
+            filaPendiente_ = Row();
         setUpdatesEnabled(false);
         modelo_->suspenderAvisos();
     }

@@ -86,6 +86,7 @@ private:
     bool mostrarTotales_ = false;
     int columnaBusqueda_ = -1;
     int filaAnterior_ = -1;
+    int filaPendiente_ = -1; // Row set while repainting is stopped
     bool enGeometria_ = false;
     void emitirCambioFila();
     LineaTotales* lineaTotales(); // created on first use, hidden

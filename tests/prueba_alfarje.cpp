@@ -281,7 +281,10 @@ private Q_SLOTS:
         g.setRedraw(false);
         for (int i = 0; i < 100; ++i)
             g.AddItem(u"n%1\t%1"_s.arg(i));
+        g.setRow(50); // a row chosen while repainting is stopped is selected when it resumes
+        QCOMPARE(g.Row(), 50);
         g.setRedraw(true);
+        QCOMPARE(g.Row(), 50);
         QCOMPARE(g.RowCount(), 102);
         QCOMPARE(g.modelo()->rowCount(), 102);
         QCOMPARE(g.CellText(101, 1), u"99"_s);
