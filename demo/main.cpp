@@ -116,7 +116,9 @@ public:
         auto* panel = new QWidget(desplazable);
         m_rejilla = new QGridLayout(panel);
         construirMetodos(panel);
-        m_rejilla->setRowStretch(m_rejilla->rowCount(), 1);
+        m_rejilla->setRowStretch(kFilas, 1);
+        m_rejilla->setColumnStretch(1, 1);
+        m_rejilla->setColumnStretch(3, 1);
         desplazable->setWidget(panel);
 
         m_resultado = new QPlainTextEdit(division);
@@ -125,11 +127,12 @@ public:
         m_resultado->setPlaceholderText(u"Aquí aparece lo que devuelve cada método."_s);
         division->addWidget(desplazable);
         division->addWidget(m_resultado);
-        division->setStretchFactor(1, 1);
+        division->setStretchFactor(0, 3);
+        division->setStretchFactor(1, 2);
         raiz->addWidget(division, 1);
 
         setCentralWidget(central);
-        resize(1000, 760);
+        resize(1280, 720);
     }
 
     struct Metodo {
@@ -150,6 +153,8 @@ public:
     }
 
 private:
+    static constexpr int kFilas = 13;
+
     QString idEmp() const { return m_empresa->currentText().trimmed(); }
 
     QSpinBox* numero(QWidget* padre, int minimo, int maximo, int valor, const QString& prefijo)
@@ -164,15 +169,18 @@ private:
     void agregar(QWidget* padre, const QString& nombre, std::function<QString()> llamar,
                  const QList<QWidget*>& entradas = {})
     {
-        const int fila = m_rejilla->rowCount();
+        // Two columns of methods, each a button and its arguments.
+        const int posicion = int(m_metodos.size());
+        const int fila = posicion % kFilas;
+        const int columna = (posicion / kFilas) * 2;
         auto* boton = new QPushButton(nombre, padre);
         boton->setObjectName(nombre);
-        m_rejilla->addWidget(boton, fila, 0);
+        m_rejilla->addWidget(boton, fila, columna);
         auto* extras = new QHBoxLayout;
         for (QWidget* w : entradas)
             extras->addWidget(w);
         extras->addStretch(1);
-        m_rejilla->addLayout(extras, fila, 1);
+        m_rejilla->addLayout(extras, fila, columna + 1);
         m_metodos.push_back({nombre, llamar});
         const std::size_t indice = m_metodos.size() - 1;
         QObject::connect(boton, &QPushButton::clicked, this, [this, indice] { ejecutar(m_metodos[indice]); });
@@ -180,9 +188,8 @@ private:
 
     void construirMetodos(QWidget* p)
     {
-        clsNomencla& n = m_nomencla;
-        auto booleano = [this, &n](bool (clsNomencla::*m)(const QString&, QSqlDatabase&)) {
-            return [this, &n, m] { return texto((n.*m)(idEmp(), m_conexion)); };
+        auto booleano = [this](bool (clsNomencla::*m)(const QString&, QSqlDatabase&)) {
+            return [this, m]() -> QString { return texto((m_nomencla.*m)(idEmp(), m_conexion)); };
         };
 
         agregar(p, u"Contenidos"_s, booleano(&clsNomencla::Contenidos));
@@ -201,16 +208,16 @@ private:
         auto* proveedor = numero(p, 0, 999999, 1, u"Proveedor: "_s);
         agregar(
             p, u"SubProveedores"_s,
-            [this, &n, proveedor] {
-                return texto(n.SubProveedores(QVariant(idEmp()), proveedor->value(), m_conexion));
+            [this, proveedor]() -> QString {
+                return texto(m_nomencla.SubProveedores(QVariant(idEmp()), proveedor->value(), m_conexion));
             },
             {proveedor});
 
         agregar(p, u"Cargos"_s, booleano(&clsNomencla::Cargos));
         agregar(p, u"Departamentos"_s, booleano(&clsNomencla::Departamentos));
-        agregar(p, u"FacturasPendientes"_s, [this, &n] {
+        agregar(p, u"FacturasPendientes"_s, [this]() -> QString {
             return QString::number(
-                n.FacturasPendientes(idEmp(), m_nombreEmpresa->text(), m_conexion, m_conexionAcces));
+                m_nomencla.FacturasPendientes(idEmp(), m_nombreEmpresa->text(), m_conexion, m_conexionAcces));
         });
 
         auto* tipoDoc = new QComboBox(p);
@@ -225,17 +232,17 @@ private:
             tipoDoc->addItem(etiqueta, valor);
         agregar(
             p, u"ElegirModeloImpresion"_s,
-            [this, &n, tipoDoc] {
+            [this, tipoDoc]() -> QString {
                 const auto tipo = static_cast<TipoDocImpresion>(tipoDoc->currentData().toInt());
-                return QString::number(n.ElegirModeloImpresion(idEmp(), m_conexion, tipo));
+                return QString::number(m_nomencla.ElegirModeloImpresion(idEmp(), m_conexion, tipo));
             },
             {tipoDoc});
 
         agregar(p, u"Paises"_s, booleano(&clsNomencla::Paises));
         agregar(p, u"Medidas"_s, booleano(&clsNomencla::Medidas));
-        agregar(p, u"AgregarLoteCaducidad"_s, [this, &n] {
+        agregar(p, u"AgregarLoteCaducidad"_s, [this]() -> QString {
             InfoLotes lote;
-            const bool ok = n.AgregarLoteCaducidad(idEmp(), m_conexion, lote);
+            const bool ok = m_nomencla.AgregarLoteCaducidad(idEmp(), m_conexion, lote);
             return texto(ok) + u"\n    Lote: "_s + lote.Lote + u"\n    FechaCaducidad: "_s +
                    fecha(lote.FechaCaducidad) + u"\n    Cantidad: "_s + QString::number(lote.Cantidad) +
                    u"\n    RegistroSanitario: "_s + lote.RegistroSanitario + u"\n    FechaFabricacion: "_s +
@@ -255,31 +262,31 @@ private:
             clase->addItem(etiqueta, valor);
         agregar(
             p, u"SeleccionarLote"_s,
-            [this, &n, articulo, bodega, clase] {
+            [this, articulo, bodega, clase]() -> QString {
                 const auto tipo = static_cast<tipoLoteLS>(clase->currentData().toInt());
                 return QString::number(
-                    n.SeleccionarLote(idEmp(), m_conexion, articulo->value(), bodega->value(), tipo));
+                    m_nomencla.SeleccionarLote(idEmp(), m_conexion, articulo->value(), bodega->value(), tipo));
             },
             {articulo, bodega, clase});
 
-        agregar(p, u"FacturasPendientesVentas"_s, [this, &n] {
+        agregar(p, u"FacturasPendientesVentas"_s, [this]() -> QString {
             return QString::number(
-                n.FacturasPendientesVentas(m_nombreEmpresa->text(), m_conexion, m_conexionAcces));
+                m_nomencla.FacturasPendientesVentas(m_nombreEmpresa->text(), m_conexion, m_conexionAcces));
         });
 
         auto* pago = numero(p, 0, 999999, 4, u"Pago: "_s);
         agregar(
             p, u"ListaFacturasCanceladas"_s,
-            [this, &n, pago] {
-                n.ListaFacturasCanceladas(idEmp(), pago->value(), m_conexion);
+            [this, pago]() -> QString {
+                m_nomencla.ListaFacturasCanceladas(idEmp(), pago->value(), m_conexion);
                 return u"(sin valor de retorno)"_s;
             },
             {pago});
-        agregar(p, u"ListaFechasIVA"_s, [this, &n] {
-            n.ListaFechasIVA(idEmp(), m_conexion);
+        agregar(p, u"ListaFechasIVA"_s, [this]() -> QString {
+            m_nomencla.ListaFechasIVA(idEmp(), m_conexion);
             return u"(sin valor de retorno)"_s;
         });
-        agregar(p, u"ConfirmaUsuario"_s, [this, &n] { return texto(n.ConfirmaUsuario(idEmp(), m_conexion)); });
+        agregar(p, u"ConfirmaUsuario"_s, [this]() -> QString { return texto(m_nomencla.ConfirmaUsuario(idEmp(), m_conexion)); });
     }
 
     clsNomencla m_nomencla;
@@ -299,7 +306,6 @@ public:
 
     void iniciar()
     {
-        guardar(m_ventana.grab(), u"ventana-principal"_s);
         QTimer::singleShot(0, this, [this] { ejecutar(0); });
     }
 
@@ -312,6 +318,8 @@ private:
     {
         const auto& metodos = m_ventana.metodos();
         if (i >= metodos.size()) {
+            // The main window last, with what every call returned.
+            guardar(m_ventana.grab(), u"ventana-principal"_s);
             std::fprintf(stdout, "%d capturas en %s\n", int(m_escritos.size()), qPrintable(m_carpeta));
             for (const QString& f : std::as_const(m_escritos))
                 std::fprintf(stdout, "%s\n", qPrintable(f));
@@ -475,7 +483,7 @@ int main(int argc, char* argv[])
         if (o.puerto > 0)
             principal.setPort(o.puerto);
         descripcion = o.baseDatos + u" en "_s + principal.hostName() +
-                      (o.puerto > 0 ? u":"_s + QString::number(o.puerto) : QString());
+                      (o.puerto > 0 ? QString(u":"_s + QString::number(o.puerto)) : QString());
     }
     if (!principal.open()) {
         std::fprintf(stderr, "no se pudo abrir la base de datos: %s\n", qPrintable(principal.lastError().text()));
