@@ -12,6 +12,8 @@
 #include <QFontMetrics>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QHeaderView>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -100,7 +102,10 @@ void ListaCodificada::Disenar(QWidget* lienzo)
     GR->setFormatocolumnas(d_.formato);
     GR->setShowrownumbers(true);
     GR->setTotalslineshow(false);
-    GR->setMinimumSize(520, 260);
+    // Wide enough for every column of the format, as the user reads a row.
+    GR->setMinimumSize(std::max(520, GR->horizontalHeader()->length() + GR->verticalHeader()->sizeHint().width()
+                                         + GR->verticalScrollBar()->sizeHint().width() + 2 * GR->frameWidth() + 4),
+                       260);
     etiquetaLista->setBuddy(GR);
     cuerpo->addWidget(etiquetaLista);
     cuerpo->addWidget(GR);

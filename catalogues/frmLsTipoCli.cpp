@@ -22,7 +22,7 @@ const DatosListaCodificada& frmLsTipoCli::datos()
         x.keyPreview = true;
         // Each figure under a heading of its own, in the order of the cells
         // (tip, des, cre, pla, descu, cod), so the row reads as it is stored.
-        x.formato = u"<TIPO DE CLIENTE         |<DESCRIPCION DE LA CATEGORÍA              |>CUPO CRED.  |>PLAZO DÍAS|>DESC.% |."_s;
+        x.formato = u"<TIPO DE CLIENTE         |<DESCRIPCION                   |>CUPO CRED.  |>PLAZO DÍAS  |>DESC.%  |."_s;
         x.columnaClave = 5;
         x.etiquetaLista = u"&Lista de categorías registradas"_s;
         x.etiquetaTexto0 = u"Tipo:"_s;

@@ -108,7 +108,7 @@ private Q_SLOTS:
         });
         QVERIFY(nomencla.TipoClientes(u"1"_s, db));
         QLocale::setDefault(antes);
-        QCOMPARE(titulos, (QStringList{u"TIPO DE CLIENTE"_s, u"DESCRIPCION DE LA CATEGORÍA"_s, u"CUPO CRED."_s,
+        QCOMPARE(titulos, (QStringList{u"TIPO DE CLIENTE"_s, u"DESCRIPCION"_s, u"CUPO CRED."_s,
                                        u"PLAZO DÍAS"_s, u"DESC.%"_s}));
         QCOMPARE(fila, (QStringList{u"Mayorista"_s, QString(), u"1500"_s, u"30"_s, u"12.5"_s}));
         QCOMPARE(filas(db, u"SELECT id,cod,tip,cre,pla,descu,inte,est FROM mTipClie ORDER BY id,cod"_s),
