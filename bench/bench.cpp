@@ -10,10 +10,14 @@
 #include "core/ModeloAlfarje.h"
 #include "core/Plegado.h"
 
+#include <nomencla/clsNomencla.h>
+
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QPointer>
 #include <QProcess>
+#include <QTimer>
 #include <QRandomGenerator>
 #include <QSqlDatabase>
 #include <QSqlError>
@@ -239,13 +243,62 @@ long picoEnHijo(const char* modo, const Conjunto& c, int n)
     return QString::fromLatin1(p.readAllStandardOutput()).trimmed().toLong();
 }
 
-// First paint (e) and closing (f) of a real dialog on a list of n rows: the
-// dialogs are not part of the grid, they are measured with the library.
+// Watches the city dialog opened through the public class: when it is shown,
+// when its list first paints, and then closes it.
+class Cronometro : public QObject {
+public:
+    QElapsedTimer reloj;
+    qint64 mostrado = -1, pintado = -1, cierre = -1;
+    QPointer<QWidget> dialogo;
+
+protected:
+    bool eventFilter(QObject* o, QEvent* e) override
+    {
+        if (e->type() == QEvent::Show && o->objectName() == u"frmLsCiudad"_s && mostrado < 0) {
+            mostrado = reloj.nsecsElapsed();
+            dialogo = static_cast<QWidget*>(o);
+        } else if (e->type() == QEvent::Paint && pintado < 0 && dialogo && o->parent()
+                   && o->parent()->objectName() == u"GR"_s) {
+            // Let the paint itself finish before the close is asked for.
+            QTimer::singleShot(0, this, [this] {
+                pintado = reloj.nsecsElapsed();
+                cierre = reloj.nsecsElapsed();
+                QMetaObject::invokeMethod(dialogo.data(), "reject");
+            });
+        }
+        return false;
+    }
+};
+
+// First paint (e) and closing (f) of frmLsCiudad on a list of n rows, from the
+// call of the public method to the list's first paint, and from the request to
+// close it until the method has returned.
 void medirDialogo(QSqlDatabase& bd, int n)
 {
-    Q_UNUSED(bd);
-    Q_UNUSED(n);
-    std::printf("  dialog first paint (e) / close (f): n/a\n");
+    clsNomencla nomencla;
+    std::vector<double> primera, trasLlenado, cerrar;
+    for (int r = 0; r < 3; ++r) {
+        Cronometro c;
+        qApp->installEventFilter(&c);
+        c.reloj.start();
+        nomencla.Ciudades(QString::number(n), bd);
+        const qint64 fin = c.reloj.nsecsElapsed();
+        qApp->removeEventFilter(&c);
+        if (c.pintado < 0)
+            continue;
+        primera.push_back(double(c.pintado) / 1e6);
+        trasLlenado.push_back(double(c.pintado - c.mostrado) / 1e6);
+        cerrar.push_back(double(fin - c.cierre) / 1e6);
+    }
+    auto mediana = [](std::vector<double> v) {
+        if (v.empty())
+            return -1.0;
+        std::sort(v.begin(), v.end());
+        return v[v.size() / 2];
+    };
+    std::printf("  frmLsCiudad, %8d rows: call to first paint %8.1f ms (after the fill: %6.2f ms), close %6.2f ms\n", n,
+                mediana(primera), mediana(trasLlenado), mediana(cerrar));
+    std::fflush(stdout);
 }
 
 } // namespace

@@ -108,7 +108,7 @@ Alfarje::Alfarje(QWidget* parent) : QTableView(parent), modelo_(new ModeloAlfarj
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setMinimumSectionSize(4);
-    horizontalHeader()->setStretchLastSection(false);
+    horizontalHeader()->setStretchLastSection(true); // the last visible column takes the room left
 
     // Fixed row heights: nothing is measured per row, however many there are.
     QHeaderView* v = verticalHeader();
@@ -238,6 +238,11 @@ qint32 Alfarje::FindRow(const QString& texto, qint32 columna, qint32 modo, bool)
 void Alfarje::AddItem(const QString& texto)
 {
     modelo_->agregarFila(texto.split(QChar(9)));
+}
+
+void Alfarje::AddItem(const QStringList& celdas)
+{
+    modelo_->agregarFila(celdas);
 }
 
 void Alfarje::RemoveItem()

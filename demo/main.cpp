@@ -6,7 +6,9 @@
 // turn, saves a picture of each one and exits.
 #include <nomencla/clsNomencla.h>
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QPointer>
 #include <QCommandLineParser>
 #include <QComboBox>
 #include <QDialog>
@@ -368,6 +370,42 @@ private:
         if (nombre.isEmpty() || m_nombres.contains(nombre))
             nombre = m_actual;
         guardar(dialogo->grab(), nombre);
+        estadosExtra(ronda, dialogo, nombre, 0);
+    }
+
+    // Further pictures of some dialogs: a row picked, another layout.
+    void estadosExtra(int ronda, QWidget* dialogo, const QString& nombre, int paso)
+    {
+        if (!vigente(ronda))
+            return;
+        QPointer<QWidget> d(dialogo);
+        auto despues = [this, ronda, d, nombre, paso](const QString& sufijo) {
+            QTimer::singleShot(kAsentarse, this, [this, ronda, d, nombre, paso, sufijo] {
+                if (!vigente(ronda) || !d)
+                    return;
+                guardar(d->grab(), nombre + sufijo);
+                estadosExtra(ronda, d, nombre, paso + 1);
+            });
+        };
+        // The grid of a dialog: pick its first row as a double click would.
+        auto elegirPrimera = [d]() {
+            QObject* gr = d->findChild<QObject*>(u"GR"_s);
+            if (!gr || gr->property("RowCount").toInt() == 0)
+                return false;
+            gr->setProperty("Row", 0);
+            return QMetaObject::invokeMethod(gr, "Click");
+        };
+        if (paso == 0 && (nombre == u"frmLsZona"_s || nombre == u"frmEmpresas"_s || nombre == u"frmLsTipoCli"_s
+                          || nombre == u"frmSucursales"_s || nombre == u"frmLsCategorias"_s)) {
+            if (elegirPrimera())
+                return despues(u"-elegido"_s);
+        }
+        if (paso == 0 && nombre == u"frmLsBancos"_s) {
+            if (auto* casilla = d->findChild<QAbstractButton*>(u"Check1"_s)) {
+                casilla->click();
+                return despues(u"-tarjetas"_s);
+            }
+        }
         cerrar(ronda);
     }
 

@@ -98,7 +98,7 @@ private Q_SLOTS:
         const int w = g.fontMetrics().averageCharWidth();
         QCOMPARE(g.columnWidth(0), 16 * w);
         QCOMPARE(g.columnWidth(1), 8 * w);
-        QCOMPARE(g.columnWidth(3), 8 * w);
+        QVERIFY(g.columnWidth(3) >= 8 * w); // the last visible column also takes the room left
         QVERIFY(!g.isColumnHidden(0));
         QVERIFY(g.isColumnHidden(4));
         QVERIFY(g.isColumnHidden(5));
