@@ -253,7 +253,7 @@ void frmLsZona::GuardarLugar()
     QSqlDatabase& db = M().Conexion;
     if (CodigoLugar < 1) {
         if (CodigoActual < 1) {
-            GR2->AddItem(t2 + u"\t0"_s); // waits for the zone's save
+            GR2->AddItem(QStringList{t2, u"0"_s}); // waits for the zone's save
         } else {
             bool hecho = false;
             {
@@ -261,7 +261,7 @@ void frmLsZona::GuardarLugar()
                 hecho = operacion([&] {
                     const QSqlQuery q =
                         ejecutar(db, sqlLugarNuevo, {M().IdEmp, qint64(CodigoActual), t2, ordinal});
-                    GR2->AddItem(t2 + u"\t"_s + q.lastInsertId().toString());
+                    GR2->AddItem(QStringList{t2, q.lastInsertId().toString()});
                 });
             }
             if (!hecho)
