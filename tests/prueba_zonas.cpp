@@ -15,11 +15,6 @@ using nomencla::Alfarje;
 
 namespace {
 
-QLineEdit* caja(QWidget* d, int i)
-{
-    return control<QLineEdit>(d, u"Tx(%1)"_s.arg(i));
-}
-
 // The dialog as the user has it: the active window, so the focus is real.
 void activa(QWidget* d)
 {
