@@ -158,7 +158,7 @@ void ListaCodificada::DisenarExtra(QWidget*, QGridLayout*, QBoxLayout*) {}
 void ListaCodificada::Form_Load()
 {
     CodigoActual = 0;
-    CargarLista();
+    operacion([this] { CargarLista(); });
     M().HuboCambios = false;
 }
 
