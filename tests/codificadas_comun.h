@@ -7,6 +7,7 @@
 #include "core/Controles.h"
 
 #include <QAbstractButton>
+#include <QLineEdit>
 
 namespace prueba {
 
@@ -20,6 +21,12 @@ inline void dobleClic(nomencla::Alfarje* gr, int fila)
 inline QString textoDe(QWidget* d, const QString& nombre)
 {
     return control<QWidget>(d, nombre)->property("text").toString();
+}
+
+// The one-line box Tx(i).
+inline QLineEdit* caja(QWidget* d, int i)
+{
+    return control<QLineEdit>(d, QStringLiteral("Tx(%1)").arg(i));
 }
 
 inline void escribir(QWidget* d, const QString& nombre, const QString& texto)

@@ -12,15 +12,6 @@ using namespace Qt::StringLiterals;
 using namespace prueba;
 using nomencla::Alfarje;
 
-namespace {
-
-QLineEdit* caja(QWidget* d, int i)
-{
-    return control<QLineEdit>(d, u"Tx(%1)"_s.arg(i));
-}
-
-} // namespace
-
 class PruebaTiposCliente : public QObject {
     Q_OBJECT
     QSqlDatabase db;

@@ -1,0 +1,1 @@
+nomencla_prueba(prueba_zonas prueba_zonas.cpp)
