@@ -55,13 +55,6 @@ const DatosListaCodificada& frmLsTipoCli::datos()
 
 frmLsTipoCli::frmLsTipoCli() : ListaCodificada(datos()) {}
 
-double frmLsTipoCli::Val(const QString& texto)
-{
-    static const QRegularExpression numero(u"^\\s*[+-]?(\\d+\\.?\\d*|\\.\\d+)"_s);
-    const QRegularExpressionMatch m = numero.match(texto);
-    return m.hasMatch() ? QLocale::c().toDouble(m.captured(0).trimmed()) : 0.0;
-}
-
 void frmLsTipoCli::DisenarExtra(QWidget* lienzo, QGridLayout* campos, QBoxLayout*)
 {
     struct Cifra {
@@ -100,7 +93,7 @@ void frmLsTipoCli::DisenarExtra(QWidget* lienzo, QGridLayout* campos, QBoxLayout
 
 QVariantList frmLsTipoCli::valoresExtra() const
 {
-    return {Val(texto(2)), Val(texto(3)), Val(texto(4))};
+    return {clsServicios::Val(texto(2)), clsServicios::Val(texto(3)), clsServicios::Val(texto(4))};
 }
 
 void frmLsTipoCli::NuevoExtra()
@@ -113,7 +106,7 @@ void frmLsTipoCli::MostrarExtra()
 {
     // The stored figure in its plain form (1500, 30, 12.5), as one would type it.
     for (int i = 2; i <= 4; ++i)
-        ponerTexto(i, QString::number(Val(GR->CellText(GR->Row(), i)), 'g', 15));
+        ponerTexto(i, QString::number(clsServicios::Val(GR->CellText(GR->Row(), i)), 'g', 15));
 }
 
 } // namespace nomencla

@@ -13,7 +13,6 @@ public:
     static const DatosListaCodificada& datos();
 
     // The leading number of a text, with a point as decimal mark; 0 when none.
-    static double Val(const QString& texto);
 
 protected:
     void DisenarExtra(QWidget* lienzo, QGridLayout* campos, QBoxLayout* cuerpo) override;

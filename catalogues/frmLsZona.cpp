@@ -70,7 +70,7 @@ const auto sqlLugarQuitar = u"UPDATE mZonalugar SET est=0 WHERE cod=? AND id=?"_
 // The numeric value of a key cell: a stored place's cod, 0 for a pending row.
 qint32 claveDe(const QString& celda)
 {
-    return qint32(frmLsTipoCli::Val(celda));
+    return qint32(clsServicios::Val(celda));
 }
 
 // Repainting of a grid is off while it lives, and back on however the block ends.
@@ -249,7 +249,7 @@ void frmLsZona::GuardarLugar()
         Tx2_->setFocus();
         return;
     }
-    const double ordinal = frmLsTipoCli::Val(Tx3_->text());
+    const double ordinal = clsServicios::Val(Tx3_->text());
     QSqlDatabase& db = M().Conexion;
     if (CodigoLugar < 1) {
         if (CodigoActual < 1) {

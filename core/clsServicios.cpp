@@ -56,6 +56,13 @@ int clsServicios::FiltrarTecla(QWidget* Caja, int KeyAscii, int Decimales, int A
     return it->match(resultado).hasMatch() ? tecla.unicode() : 0;
 }
 
+double clsServicios::Val(const QString& texto)
+{
+    static const QRegularExpression numero(u"^\\s*[+-]?(\\d+\\.?\\d*|\\.\\d+)"_s);
+    const QRegularExpressionMatch m = numero.match(texto);
+    return m.hasMatch() ? QLocale::c().toDouble(m.captured(0).trimmed()) : 0.0;
+}
+
 QDate clsServicios::fechaDeTexto(const QString& texto)
 {
     const QString t = texto.trimmed();

@@ -29,6 +29,10 @@ public:
     // would allow a leading minus sign; `B` is not used.
     int FiltrarTecla(QWidget* Caja, int KeyAscii, int Decimales, int A, int Digitos, int B) const;
 
+    // The leading number of a text, with a point as the decimal mark; 0 when
+    // the text does not begin with one ("12abc" is 12).
+    static double Val(const QString& texto);
+
     // The date of a text as the database writes it ("yyyy-MM-dd"); "" when the
     // text is no date. Takes the texts a grid or a picker shows.
     QString FechaSql(const QString& Fecha) const;

@@ -101,6 +101,17 @@ private Q_SLOTS:
         QCOMPARE(caja.text(), u"12.56"_s);
     }
 
+    // The leading number of a typed text, with a point.
+    void val()
+    {
+        QCOMPARE(clsServicios::Val(u""_s), 0.0);
+        QCOMPARE(clsServicios::Val(u"12.5"_s), 12.5);
+        QCOMPARE(clsServicios::Val(u" 30 días"_s), 30.0);
+        QCOMPARE(clsServicios::Val(u"1500.00"_s), 1500.0);
+        QCOMPARE(clsServicios::Val(u"abc"_s), 0.0);
+        QCOMPARE(clsServicios::Val(u".5"_s), 0.5);
+    }
+
     void expresion_caso()
     {
         ejecutarSql(db, u"INSERT INTO empresas (id,emp,act,est) VALUES ('1','Uno',1,1),('1','Dos',8,1),('1','Tres',9,1)"_s);

@@ -25,17 +25,6 @@ private Q_SLOTS:
                         "('2',1,'Corporativo','otra empresa',9000,90,5,3,1)"_s);
     }
 
-    void val()
-    {
-        using nomencla::frmLsTipoCli;
-        QCOMPARE(frmLsTipoCli::Val(u""_s), 0.0);
-        QCOMPARE(frmLsTipoCli::Val(u"12.5"_s), 12.5);
-        QCOMPARE(frmLsTipoCli::Val(u" 30 días"_s), 30.0);
-        QCOMPARE(frmLsTipoCli::Val(u"1500.00"_s), 1500.0);
-        QCOMPARE(frmLsTipoCli::Val(u"abc"_s), 0.0);
-        QCOMPARE(frmLsTipoCli::Val(u".5"_s), 0.5);
-    }
-
     // Typing is filtered per box; the figures are stored as numbers whatever
     // the locale; each figure stands under its heading; the first key is 1.
     void de_principio_a_fin()
