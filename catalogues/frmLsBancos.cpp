@@ -7,6 +7,7 @@
 
 #include <QFrame>
 #include <QGridLayout>
+#include <QLayout>
 
 using namespace Qt::StringLiterals;
 
@@ -126,6 +127,11 @@ void frmLsBancos::Check1_Click()
     const bool alto = Check1->Value() == 1;
     for (QWidget* w : comisiones_)
         w->setVisible(alto);
+    // The form takes the size of the new layout at once.
+    for (QWidget* w = marcoCampos; w != nullptr; w = w == this ? nullptr : w->parentWidget())
+        if (w->layout())
+            w->layout()->invalidate();
+    layout()->activate();
 }
 
 void frmLsBancos::Bt_Click(int Index)
