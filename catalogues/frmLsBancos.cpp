@@ -9,6 +9,8 @@
 #include <QGridLayout>
 #include <QLayout>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace nomencla {
@@ -100,6 +102,13 @@ QWidget* frmLsBancos::disenarCampos(QGridLayout* campos, int fila, QWidget* ante
                 KeyAscii = M().servicios().FiltrarTecla(caja, KeyAscii, 2, 0, 5, 0);
         });
     }
+    // The captions' column keeps the width of the longest one in both layouts,
+    // so that only the height changes.
+    int ancho = 0;
+    for (int i = 0; i < campos->count(); ++i)
+        if (auto* e = qobject_cast<Etiqueta*>(campos->itemAt(i)->widget()))
+            ancho = std::max(ancho, e->sizeHint().width());
+    campos->setColumnMinimumWidth(0, ancho);
     campos->setColumnStretch(3, 1);
     connect(Check1, &Casilla::Click, this, [this] { Check1_Click(); });
     return anterior;
