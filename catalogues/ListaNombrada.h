@@ -43,7 +43,6 @@ public:
 
     void Guardar();
     void Quitar();
-    qint64 codigoActual() const { return CodigoActual; }
 
 protected:
     void Disenar(QWidget* lienzo) override;
