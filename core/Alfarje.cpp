@@ -108,7 +108,7 @@ Alfarje::Alfarje(QWidget* parent) : QTableView(parent), modelo_(new ModeloAlfarj
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsClickable(false);
     horizontalHeader()->setMinimumSectionSize(4);
-    horizontalHeader()->setStretchLastSection(false);
+    horizontalHeader()->setStretchLastSection(true); // the last visible column takes the room left
 
     // Fixed row heights: nothing is measured per row, however many there are.
     QHeaderView* v = verticalHeader();
@@ -243,8 +243,10 @@ void Alfarje::AddItem(const QString& texto)
 void Alfarje::RemoveItem()
 {
     const int f = Row();
-    if (f >= 0)
-        modelo_->quitarFila(f);
+    if (f < 0)
+        return;
+    modelo_->quitarFila(f);
+    clearSelection(); // the view would otherwise select the next row by itself
 }
 
 void Alfarje::ClearRows() { modelo_->vaciar(); }
@@ -340,6 +342,14 @@ void Alfarje::mouseDoubleClickEvent(QMouseEvent* evento)
     QTableView::mouseDoubleClickEvent(evento);
     if (indexAt(evento->position().toPoint()).isValid())
         Q_EMIT Click();
+}
+
+QModelIndex Alfarje::moveCursor(CursorAction accion, Qt::KeyboardModifiers modificadores)
+{
+    // Whole rows: Home and End go to the first and the last row.
+    if (accion == MoveHome || accion == MoveEnd)
+        modificadores |= Qt::ControlModifier;
+    return QTableView::moveCursor(accion, modificadores);
 }
 
 void Alfarje::resizeEvent(QResizeEvent* evento)

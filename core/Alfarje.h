@@ -75,6 +75,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* evento) override;
     void resizeEvent(QResizeEvent* evento) override;
     void updateGeometries() override;
+    QModelIndex moveCursor(CursorAction accion, Qt::KeyboardModifiers modificadores) override;
 
 private:
     ModeloAlfarje* modelo_;

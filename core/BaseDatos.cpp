@@ -47,8 +47,14 @@ QSqlQuery ejecutar(QSqlDatabase& db, const QString& sql, const QVariantList& val
     q.setForwardOnly(soloAdelante);
     if (!q.prepare(sql))
         fallar(q.lastError(), sql);
-    for (const QVariant& v : valores)
-        q.addBindValue(v);
+    for (const QVariant& v : valores) {
+        // An empty text box gives a null QString, which would bind as NULL:
+        // texts are bound as text, empty or not. A deliberate NULL is QVariant().
+        if (v.typeId() == QMetaType::QString && v.toString().isNull())
+            q.addBindValue(QStringLiteral(""));
+        else
+            q.addBindValue(v);
+    }
     if (!q.exec())
         fallar(q.lastError(), sql);
     return q;

@@ -114,6 +114,18 @@ struct ModeloAlfarje::Columna {
                 tramos.push_back(int(f));
     }
 
+    // Room for `mas` more cells, once the kind of the column is known.
+    void reservar(qsizetype mas)
+    {
+        const size_t total = size_t(n + mas);
+        switch (tipo) {
+        case Tipo::Texto: fin.reserve(total); break;
+        case Tipo::Entero: ent.reserve(total); break;
+        case Tipo::Decimal: dec.reserve(total); break;
+        case Tipo::Fecha: dia.reserve(total); break;
+        }
+    }
+
     void agregarNulos(qsizetype cuantos)
     {
         for (qsizetype i = 0; i < cuantos; ++i)
@@ -456,7 +468,14 @@ bool ModeloAlfarje::cargar(QSqlQuery& consulta, const QVector<int>& campos)
     for (int c = 0; c < nc; ++c)
         cols.push_back(columnas_[size_t(c)].get());
     const int otras = int(columnas_.size());
+    // Drivers that know the size of the result (MySQL does) let the columns
+    // take their room at once, after the first row has set their kinds.
+    const int esperadas = consulta.isForwardOnly() ? consulta.size() : -1;
+    const int primera = filas_;
     while (consulta.next()) {
+        if (filas_ == primera + 1 && esperadas > 1)
+            for (auto& col : columnas_)
+                col->reservar(esperadas - 1);
         for (int c = 0; c < nc; ++c) {
             if (campos[c] < 0)
                 cols[size_t(c)]->agregarNulo();
@@ -632,7 +651,7 @@ QString ModeloAlfarje::textoMostrado(int fila, int col) const
     if (c.decimales >= 0) {
         if (c.tipo == Tipo::Texto) {
             bool ok = false;
-            c.vista(fila).trimmed().toDouble(&ok);
+            (void)c.vista(fila).trimmed().toDouble(&ok);
             if (!ok)
                 return c.texto(fila);
         } else if (c.tipo == Tipo::Fecha) {
@@ -683,8 +702,8 @@ QVariant ModeloAlfarje::data(const QModelIndex& i, int role) const
         return valor(i.row(), col) != 0 ? Qt::Checked : Qt::Unchecked;
     case Qt::TextAlignmentRole:
         if (col < alineaciones_.size())
-            return QVariant::fromValue(alineaciones_[col] | Qt::AlignVCenter);
-        return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);
+            return int(alineaciones_[col] | Qt::AlignVCenter);
+        return int(Qt::AlignLeft | Qt::AlignVCenter);
     default:
         return QVariant();
     }
@@ -700,7 +719,7 @@ QVariant ModeloAlfarje::headerData(int section, Qt::Orientation o, int role) con
     if (role == Qt::DisplayRole)
         return section < titulos_.size() ? titulos_[section] : QString();
     if (role == Qt::TextAlignmentRole && section < alineaciones_.size())
-        return QVariant::fromValue(alineaciones_[section] | Qt::AlignVCenter);
+        return int(alineaciones_[section] | Qt::AlignVCenter);
     return QVariant();
 }
 

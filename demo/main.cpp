@@ -6,7 +6,9 @@
 // turn, saves a picture of each one and exits.
 #include <nomencla/clsNomencla.h>
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QPointer>
 #include <QCommandLineParser>
 #include <QComboBox>
 #include <QDialog>
@@ -116,7 +118,9 @@ public:
         auto* panel = new QWidget(desplazable);
         m_rejilla = new QGridLayout(panel);
         construirMetodos(panel);
-        m_rejilla->setRowStretch(m_rejilla->rowCount(), 1);
+        m_rejilla->setRowStretch(kFilas, 1);
+        m_rejilla->setColumnStretch(1, 1);
+        m_rejilla->setColumnStretch(3, 1);
         desplazable->setWidget(panel);
 
         m_resultado = new QPlainTextEdit(division);
@@ -125,11 +129,12 @@ public:
         m_resultado->setPlaceholderText(u"Aquí aparece lo que devuelve cada método."_s);
         division->addWidget(desplazable);
         division->addWidget(m_resultado);
-        division->setStretchFactor(1, 1);
+        division->setStretchFactor(0, 3);
+        division->setStretchFactor(1, 2);
         raiz->addWidget(division, 1);
 
         setCentralWidget(central);
-        resize(1000, 760);
+        resize(1280, 720);
     }
 
     struct Metodo {
@@ -150,6 +155,8 @@ public:
     }
 
 private:
+    static constexpr int kFilas = 13;
+
     QString idEmp() const { return m_empresa->currentText().trimmed(); }
 
     QSpinBox* numero(QWidget* padre, int minimo, int maximo, int valor, const QString& prefijo)
@@ -164,15 +171,18 @@ private:
     void agregar(QWidget* padre, const QString& nombre, std::function<QString()> llamar,
                  const QList<QWidget*>& entradas = {})
     {
-        const int fila = m_rejilla->rowCount();
+        // Two columns of methods, each a button and its arguments.
+        const int posicion = int(m_metodos.size());
+        const int fila = posicion % kFilas;
+        const int columna = (posicion / kFilas) * 2;
         auto* boton = new QPushButton(nombre, padre);
         boton->setObjectName(nombre);
-        m_rejilla->addWidget(boton, fila, 0);
+        m_rejilla->addWidget(boton, fila, columna);
         auto* extras = new QHBoxLayout;
         for (QWidget* w : entradas)
             extras->addWidget(w);
         extras->addStretch(1);
-        m_rejilla->addLayout(extras, fila, 1);
+        m_rejilla->addLayout(extras, fila, columna + 1);
         m_metodos.push_back({nombre, llamar});
         const std::size_t indice = m_metodos.size() - 1;
         QObject::connect(boton, &QPushButton::clicked, this, [this, indice] { ejecutar(m_metodos[indice]); });
@@ -180,9 +190,8 @@ private:
 
     void construirMetodos(QWidget* p)
     {
-        clsNomencla& n = m_nomencla;
-        auto booleano = [this, &n](bool (clsNomencla::*m)(const QString&, QSqlDatabase&)) {
-            return [this, &n, m] { return texto((n.*m)(idEmp(), m_conexion)); };
+        auto booleano = [this](bool (clsNomencla::*m)(const QString&, QSqlDatabase&)) {
+            return [this, m]() -> QString { return texto((m_nomencla.*m)(idEmp(), m_conexion)); };
         };
 
         agregar(p, u"Contenidos"_s, booleano(&clsNomencla::Contenidos));
@@ -201,16 +210,16 @@ private:
         auto* proveedor = numero(p, 0, 999999, 1, u"Proveedor: "_s);
         agregar(
             p, u"SubProveedores"_s,
-            [this, &n, proveedor] {
-                return texto(n.SubProveedores(QVariant(idEmp()), proveedor->value(), m_conexion));
+            [this, proveedor]() -> QString {
+                return texto(m_nomencla.SubProveedores(QVariant(idEmp()), proveedor->value(), m_conexion));
             },
             {proveedor});
 
         agregar(p, u"Cargos"_s, booleano(&clsNomencla::Cargos));
         agregar(p, u"Departamentos"_s, booleano(&clsNomencla::Departamentos));
-        agregar(p, u"FacturasPendientes"_s, [this, &n] {
+        agregar(p, u"FacturasPendientes"_s, [this]() -> QString {
             return QString::number(
-                n.FacturasPendientes(idEmp(), m_nombreEmpresa->text(), m_conexion, m_conexionAcces));
+                m_nomencla.FacturasPendientes(idEmp(), m_nombreEmpresa->text(), m_conexion, m_conexionAcces));
         });
 
         auto* tipoDoc = new QComboBox(p);
@@ -225,17 +234,17 @@ private:
             tipoDoc->addItem(etiqueta, valor);
         agregar(
             p, u"ElegirModeloImpresion"_s,
-            [this, &n, tipoDoc] {
+            [this, tipoDoc]() -> QString {
                 const auto tipo = static_cast<TipoDocImpresion>(tipoDoc->currentData().toInt());
-                return QString::number(n.ElegirModeloImpresion(idEmp(), m_conexion, tipo));
+                return QString::number(m_nomencla.ElegirModeloImpresion(idEmp(), m_conexion, tipo));
             },
             {tipoDoc});
 
         agregar(p, u"Paises"_s, booleano(&clsNomencla::Paises));
         agregar(p, u"Medidas"_s, booleano(&clsNomencla::Medidas));
-        agregar(p, u"AgregarLoteCaducidad"_s, [this, &n] {
+        agregar(p, u"AgregarLoteCaducidad"_s, [this]() -> QString {
             InfoLotes lote;
-            const bool ok = n.AgregarLoteCaducidad(idEmp(), m_conexion, lote);
+            const bool ok = m_nomencla.AgregarLoteCaducidad(idEmp(), m_conexion, lote);
             return texto(ok) + u"\n    Lote: "_s + lote.Lote + u"\n    FechaCaducidad: "_s +
                    fecha(lote.FechaCaducidad) + u"\n    Cantidad: "_s + QString::number(lote.Cantidad) +
                    u"\n    RegistroSanitario: "_s + lote.RegistroSanitario + u"\n    FechaFabricacion: "_s +
@@ -255,31 +264,31 @@ private:
             clase->addItem(etiqueta, valor);
         agregar(
             p, u"SeleccionarLote"_s,
-            [this, &n, articulo, bodega, clase] {
+            [this, articulo, bodega, clase]() -> QString {
                 const auto tipo = static_cast<tipoLoteLS>(clase->currentData().toInt());
                 return QString::number(
-                    n.SeleccionarLote(idEmp(), m_conexion, articulo->value(), bodega->value(), tipo));
+                    m_nomencla.SeleccionarLote(idEmp(), m_conexion, articulo->value(), bodega->value(), tipo));
             },
             {articulo, bodega, clase});
 
-        agregar(p, u"FacturasPendientesVentas"_s, [this, &n] {
+        agregar(p, u"FacturasPendientesVentas"_s, [this]() -> QString {
             return QString::number(
-                n.FacturasPendientesVentas(m_nombreEmpresa->text(), m_conexion, m_conexionAcces));
+                m_nomencla.FacturasPendientesVentas(m_nombreEmpresa->text(), m_conexion, m_conexionAcces));
         });
 
         auto* pago = numero(p, 0, 999999, 4, u"Pago: "_s);
         agregar(
             p, u"ListaFacturasCanceladas"_s,
-            [this, &n, pago] {
-                n.ListaFacturasCanceladas(idEmp(), pago->value(), m_conexion);
+            [this, pago]() -> QString {
+                m_nomencla.ListaFacturasCanceladas(idEmp(), pago->value(), m_conexion);
                 return u"(sin valor de retorno)"_s;
             },
             {pago});
-        agregar(p, u"ListaFechasIVA"_s, [this, &n] {
-            n.ListaFechasIVA(idEmp(), m_conexion);
+        agregar(p, u"ListaFechasIVA"_s, [this]() -> QString {
+            m_nomencla.ListaFechasIVA(idEmp(), m_conexion);
             return u"(sin valor de retorno)"_s;
         });
-        agregar(p, u"ConfirmaUsuario"_s, [this, &n] { return texto(n.ConfirmaUsuario(idEmp(), m_conexion)); });
+        agregar(p, u"ConfirmaUsuario"_s, [this]() -> QString { return texto(m_nomencla.ConfirmaUsuario(idEmp(), m_conexion)); });
     }
 
     clsNomencla m_nomencla;
@@ -299,7 +308,6 @@ public:
 
     void iniciar()
     {
-        guardar(m_ventana.grab(), u"ventana-principal"_s);
         QTimer::singleShot(0, this, [this] { ejecutar(0); });
     }
 
@@ -312,6 +320,8 @@ private:
     {
         const auto& metodos = m_ventana.metodos();
         if (i >= metodos.size()) {
+            // The main window last, with what every call returned.
+            guardar(m_ventana.grab(), u"ventana-principal"_s);
             std::fprintf(stdout, "%d capturas en %s\n", int(m_escritos.size()), qPrintable(m_carpeta));
             for (const QString& f : std::as_const(m_escritos))
                 std::fprintf(stdout, "%s\n", qPrintable(f));
@@ -360,6 +370,42 @@ private:
         if (nombre.isEmpty() || m_nombres.contains(nombre))
             nombre = m_actual;
         guardar(dialogo->grab(), nombre);
+        estadosExtra(ronda, dialogo, nombre, 0);
+    }
+
+    // Further pictures of some dialogs: a row picked, another layout.
+    void estadosExtra(int ronda, QWidget* dialogo, const QString& nombre, int paso)
+    {
+        if (!vigente(ronda))
+            return;
+        QPointer<QWidget> d(dialogo);
+        auto despues = [this, ronda, d, nombre, paso](const QString& sufijo) {
+            QTimer::singleShot(kAsentarse, this, [this, ronda, d, nombre, paso, sufijo] {
+                if (!vigente(ronda) || !d)
+                    return;
+                guardar(d->grab(), nombre + sufijo);
+                estadosExtra(ronda, d, nombre, paso + 1);
+            });
+        };
+        // The grid of a dialog: pick its first row as a double click would.
+        auto elegirPrimera = [d]() {
+            QObject* gr = d->findChild<QObject*>(u"GR"_s);
+            if (!gr || gr->property("RowCount").toInt() == 0)
+                return false;
+            gr->setProperty("Row", 0);
+            return QMetaObject::invokeMethod(gr, "Click");
+        };
+        if (paso == 0 && (nombre == u"frmLsZona"_s || nombre == u"frmEmpresas"_s || nombre == u"frmLsTipoCli"_s
+                          || nombre == u"frmSucursales"_s || nombre == u"frmLsCategorias"_s)) {
+            if (elegirPrimera())
+                return despues(u"-elegido"_s);
+        }
+        if (paso == 0 && nombre == u"frmLsBancos"_s) {
+            if (auto* casilla = d->findChild<QAbstractButton*>(u"Check1"_s)) {
+                casilla->click();
+                return despues(u"-tarjetas"_s);
+            }
+        }
         cerrar(ronda);
     }
 
@@ -475,7 +521,7 @@ int main(int argc, char* argv[])
         if (o.puerto > 0)
             principal.setPort(o.puerto);
         descripcion = o.baseDatos + u" en "_s + principal.hostName() +
-                      (o.puerto > 0 ? u":"_s + QString::number(o.puerto) : QString());
+                      (o.puerto > 0 ? QString(u":"_s + QString::number(o.puerto)) : QString());
     }
     if (!principal.open()) {
         std::fprintf(stderr, "no se pudo abrir la base de datos: %s\n", qPrintable(principal.lastError().text()));

@@ -117,11 +117,11 @@ private Q_SLOTS:
     void llenar_grilla()
     {
         ejecutarSql(db, u"INSERT INTO mTipClie (id,cod,tip,des,cre,pla,descu,est) VALUES "
-                        "('1',1,'Mayorista',NULL,1500.5,30,2.5,1),('1',2,'Minorista','Al detal',0,0,0,1)"_s);
+                        "('1',1,'Mayorista','',1500.5,30,2.5,1),('1',2,'Minorista','Al detal',0,0,0,1)"_s);
         Alfarje gr;
         gr.setFormatocolumnas(u"<TIPO     |<DESCRIPCION   |."_s);
         gr.AddItem(u"queda\tfuera"_s);
-        grillas.LlenarGrilla(db, &gr, u"SELECT tip,des,cre,cod FROM mTipClie WHERE id=? ORDER BY tip"_s, {u"1"_s},
+        grillas.LlenarGrilla(db, &gr, u"SELECT tip,NULLIF(des,'') AS des,cre,cod FROM mTipClie WHERE id=? ORDER BY tip"_s, {u"1"_s},
                              u"TIP,Des,noHay,cre,cod"_s);
         QCOMPARE(gr.RowCount(), 2);
         QCOMPARE(gr.CellText(0, 0), u"Mayorista"_s);
