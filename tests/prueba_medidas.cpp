@@ -37,6 +37,7 @@ private Q_SLOTS:
             QCOMPARE(d->windowTitle(), u"Unidades de medida/presentación"_s);
             QCOMPARE(gr->RowCount(), 3);
             QCOMPARE(gr->CellText(0, 1), u"cja"_s);
+            QVERIFY(!gr->isColumnHidden(1)); // the abbreviation is shown
             QCOMPARE(t1->maxLength(), 20);
             QCOMPARE(t2->maxLength(), 10);
 
