@@ -138,15 +138,15 @@ void ListaSimple::Guardar()
     } else {
         const bool hecho = operacion([&] {
             QSqlQuery q = ejecutar(M().Conexion, d_.insertar.sql, d_.insertar.enlazar(M().IdEmp, {nombre, {}, segundo}));
-            QString fila = nombre;
+            QStringList fila{nombre};
             if (Text2)
-                fila += u'\t' + segundo;
+                fila.append(segundo);
             if (d_.porClave) {
                 // The new row carries its key, so it can be removed in this same opening.
                 QVariant clave = q.lastInsertId();
                 if (!clave.isValid())
                     clave = consultarValor(M().Conexion, u"SELECT LAST_INSERT_ID() AS cod"_s);
-                fila += u'\t' + clave.toString();
+                fila.append(clave.toString());
             }
             GR->AddItem(fila);
         });

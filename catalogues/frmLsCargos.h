@@ -1,16 +1,14 @@
 #pragma once
-// Not built yet: a placeholder dialog that only shows its caption.
-#include "core/Formulario.h"
+// The employees' positions; the database gives the key.
+#include "catalogues/ListaCodificada.h"
 
 namespace nomencla {
 
-class frmLsCargos : public Formulario {
+class frmLsCargos : public ListaCodificada {
     Q_OBJECT
 public:
     frmLsCargos();
-
-protected:
-    void Disenar(QWidget* lienzo) override;
+    static const DatosListaCodificada& datos();
 };
 
 } // namespace nomencla

@@ -1,16 +1,14 @@
 #pragma once
-// Not built yet: a placeholder dialog that only shows its caption.
-#include "core/Formulario.h"
+// The company's customer categories, numbered by the dialog per company.
+#include "catalogues/ListaCodificada.h"
 
 namespace nomencla {
 
-class frmLsCategorias : public Formulario {
+class frmLsCategorias : public ListaCodificada {
     Q_OBJECT
 public:
     frmLsCategorias();
-
-protected:
-    void Disenar(QWidget* lienzo) override;
+    static const DatosListaCodificada& datos();
 };
 
 } // namespace nomencla

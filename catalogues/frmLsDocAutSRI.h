@@ -1,16 +1,14 @@
 #pragma once
-// Not built yet: a placeholder dialog that only shows its caption.
-#include "core/Formulario.h"
+// The documents that the SRI authorises, by their SRI code; the database gives the key.
+#include "catalogues/ListaCodificada.h"
 
 namespace nomencla {
 
-class frmLsDocAutSRI : public Formulario {
+class frmLsDocAutSRI : public ListaCodificada {
     Q_OBJECT
 public:
     frmLsDocAutSRI();
-
-protected:
-    void Disenar(QWidget* lienzo) override;
+    static const DatosListaCodificada& datos();
 };
 
 } // namespace nomencla

@@ -1,16 +1,14 @@
 #pragma once
-// Not built yet: a placeholder dialog that only shows its caption.
-#include "core/Formulario.h"
+// The tax supports of the SRI, by their SRI code; the database gives the key.
+#include "catalogues/ListaCodificada.h"
 
 namespace nomencla {
 
-class frmLsSustentos : public Formulario {
+class frmLsSustentos : public ListaCodificada {
     Q_OBJECT
 public:
     frmLsSustentos();
-
-protected:
-    void Disenar(QWidget* lienzo) override;
+    static const DatosListaCodificada& datos();
 };
 
 } // namespace nomencla

@@ -1,16 +1,25 @@
 #pragma once
-// Not built yet: a placeholder dialog that only shows its caption.
-#include "core/Formulario.h"
+// The customer types of a company with their commercial conditions: a coded
+// list (key given by the dialog) with three numeric boxes for the most
+// credit, the longest term and the discount.
+#include "catalogues/ListaCodificada.h"
 
 namespace nomencla {
 
-class frmLsTipoCli : public Formulario {
+class frmLsTipoCli : public ListaCodificada {
     Q_OBJECT
 public:
     frmLsTipoCli();
+    static const DatosListaCodificada& datos();
+
+    // The leading number of a text, with a point as decimal mark; 0 when none.
+    static double Val(const QString& texto);
 
 protected:
-    void Disenar(QWidget* lienzo) override;
+    void DisenarExtra(QWidget* lienzo, QGridLayout* campos, QBoxLayout* cuerpo) override;
+    QVariantList valoresExtra() const override;
+    void NuevoExtra() override;
+    void MostrarExtra() override;
 };
 
 } // namespace nomencla

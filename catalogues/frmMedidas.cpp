@@ -10,9 +10,7 @@ const DatosListaSimple& frmMedidas::datos()
         DatosListaSimple x;
         x.forma = u"frmMedidas"_s;
         x.titulo = u"Unidades de medida/presentación"_s;
-        // The grid hides an entry that ends in a point: a blank after "ABREV."
-        // keeps the abbreviation in sight.
-        x.formato = u"<MEDIDA             |<ABREV. |."_s;
+        x.formato = u"<MEDIDA             |<ABREV.|."_s;
         x.etiquetaTexto = u"&Medida/Present.:"_s;
         x.etiquetaSegundo = u"A&breviación:"_s;
         x.etiquetaLista = u"Lista de medidas registradas"_s;

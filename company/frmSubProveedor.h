@@ -1,16 +1,26 @@
 #pragma once
-// Not built yet: a placeholder dialog that only shows its caption.
-#include "core/Formulario.h"
+// The sub-suppliers of the tenant, opened for one supplier: its name and tax
+// number head the dialog, and a new sub-supplier is stored under it. The
+// list shows every sub-supplier of the tenant.
+#include "company/EstructuraEmpresa.h"
 
 namespace nomencla {
 
-class frmSubProveedor : public Formulario {
+class frmSubProveedor : public EstructuraEmpresa {
     Q_OBJECT
 public:
     frmSubProveedor();
 
 protected:
     void Disenar(QWidget* lienzo) override;
+    void Form_Load() override;
+    bool Validar() override;
+    bool Escribir() override;
+    void MostrarRegistro() override;
+
+private:
+    Etiqueta* Lbl[2] = {nullptr, nullptr};
+    bool LeerProveedor();
 };
 
 } // namespace nomencla

@@ -1,16 +1,26 @@
 #pragma once
-// Not built yet: a placeholder dialog that only shows its caption.
-#include "core/Formulario.h"
+// The branches of the tenant. A branch belongs to a company by the company's
+// name, chosen among the active companies.
+#include "company/EstructuraEmpresa.h"
 
 namespace nomencla {
 
-class frmSucursales : public Formulario {
+class Combo;
+
+class frmSucursales : public EstructuraEmpresa {
     Q_OBJECT
 public:
     frmSucursales();
 
 protected:
     void Disenar(QWidget* lienzo) override;
+    void Form_Load() override;
+    bool Validar() override;
+    bool Escribir() override;
+    void MostrarRegistro() override;
+
+private:
+    Combo* Cmb = nullptr;
 };
 
 } // namespace nomencla

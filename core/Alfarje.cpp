@@ -1,5 +1,7 @@
 #include "core/Alfarje.h"
 
+#include <algorithm>
+
 #include "core/ModeloAlfarje.h"
 
 #include <QFocusEvent>
@@ -79,7 +81,11 @@ QList<Entrada> leerFormato(const QString& formato)
             }
         }
         e.largo = int(resto.size());
-        e.oculta = resto.endsWith(u'.');
+        // Hidden: "." alone, or a placeholder of x's ending in a point ("xxxx.");
+        // a title that merely ends in a point ("SERV. ELEC.") is shown.
+        const QStringView sinBlancos = resto.trimmed();
+        e.oculta = sinBlancos.endsWith(u'.')
+            && std::all_of(sinBlancos.begin(), sinBlancos.end() - 1, [](QChar c) { return c == u'x' || c == u'X'; });
         e.titulo = e.oculta ? QString() : resto.trimmed().toString();
         r.append(e);
     }
@@ -238,6 +244,11 @@ qint32 Alfarje::FindRow(const QString& texto, qint32 columna, qint32 modo, bool)
 void Alfarje::AddItem(const QString& texto)
 {
     modelo_->agregarFila(texto.split(QChar(9)));
+}
+
+void Alfarje::AddItem(const QStringList& celdas)
+{
+    modelo_->agregarFila(celdas);
 }
 
 void Alfarje::RemoveItem()

@@ -50,6 +50,7 @@ public:
     qint32 FindRow(const QString& texto, qint32 columna, qint32 modo, bool marca = false) const;
 
     void AddItem(const QString& texto); // cells separated by a Tab
+    void AddItem(const QStringList& celdas); // cells as they are, Tabs and all
     void RemoveItem();                  // the selected row
     void ClearRows();
     void ClearSelection();

@@ -6,8 +6,8 @@ using namespace Qt::StringLiterals;
 
 namespace nomencla {
 
-ErrorBD::ErrorBD(QSqlError error, QString sentencia)
-    : error_(std::move(error)), sentencia_(std::move(sentencia)), mensaje_(texto().toUtf8())
+ErrorBD::ErrorBD(QSqlError error, QString sentencia, QSqlDatabase db)
+    : error_(std::move(error)), sentencia_(std::move(sentencia)), db_(std::move(db)), mensaje_(texto().toUtf8())
 {
 }
 
@@ -31,22 +31,32 @@ const char* ErrorBD::what() const noexcept
     return mensaje_.constData();
 }
 
-static void fallar(const QSqlError& error, const QString& sql)
+static void fallar(const QSqlError& error, const QString& sql, const QSqlDatabase& db = {})
 {
     throw ErrorBD(error.isValid() ? error
                                   : QSqlError(QStringLiteral("La conexión con la base de datos no está abierta."),
                                               {}, QSqlError::ConnectionError),
-                  sql);
+                  sql, db);
+}
+
+bool reconectar(QSqlDatabase db)
+{
+    if (!db.isValid())
+        return false;
+    db.close();
+    return db.open();
 }
 
 QSqlQuery ejecutar(QSqlDatabase& db, const QString& sql, const QVariantList& valores, bool soloAdelante)
 {
-    if (!db.isOpen())
-        fallar(db.lastError(), sql);
+    // A connection left closed by a failed reconnection is opened again here:
+    // nothing has been sent yet.
+    if (!db.isOpen() && !db.open())
+        fallar(db.lastError(), sql, db);
     QSqlQuery q(db);
     q.setForwardOnly(soloAdelante);
     if (!q.prepare(sql))
-        fallar(q.lastError(), sql);
+        fallar(q.lastError(), sql, db);
     for (const QVariant& v : valores) {
         // An empty text box gives a null QString, which would bind as NULL:
         // texts are bound as text, empty or not. A deliberate NULL is QVariant().
@@ -56,7 +66,7 @@ QSqlQuery ejecutar(QSqlDatabase& db, const QString& sql, const QVariantList& val
             q.addBindValue(v);
     }
     if (!q.exec())
-        fallar(q.lastError(), sql);
+        fallar(q.lastError(), sql, db);
     return q;
 }
 
@@ -65,7 +75,7 @@ QVariant consultarValor(QSqlDatabase& db, const QString& sql, const QVariantList
     QSqlQuery q = ejecutar(db, sql, valores);
     if (!q.next()) {
         if (q.lastError().isValid())
-            fallar(q.lastError(), sql);
+            fallar(q.lastError(), sql, db);
         return {};
     }
     return q.value(0);
@@ -83,13 +93,13 @@ bool esConexionPerdida(const QSqlError& error)
 {
     const QString codigo = error.nativeErrorCode();
     return codigo == u"2006"_s || codigo == u"2013"_s || codigo == u"2002"_s || codigo == u"1927"_s
-        || codigo == u"2055"_s || error.type() == QSqlError::ConnectionError;
+        || codigo == u"2055"_s || codigo == u"4031"_s || error.type() == QSqlError::ConnectionError;
 }
 
 Transaccion::Transaccion(QSqlDatabase& db) : db_(db)
 {
-    if (!db_.isOpen() || !db_.transaction())
-        fallar(db_.lastError(), QStringLiteral("START TRANSACTION"));
+    if ((!db_.isOpen() && !db_.open()) || !db_.transaction())
+        fallar(db_.lastError(), QStringLiteral("START TRANSACTION"), db_);
     activa_ = true;
 }
 
@@ -105,7 +115,7 @@ void Transaccion::confirmar()
         const QSqlError error = db_.lastError();
         db_.rollback();
         activa_ = false;
-        fallar(error, QStringLiteral("COMMIT"));
+        fallar(error, QStringLiteral("COMMIT"), db_);
     }
     activa_ = false;
 }

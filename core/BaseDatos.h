@@ -16,9 +16,11 @@ namespace nomencla {
 
 class ErrorBD : public std::exception {
 public:
-    explicit ErrorBD(QSqlError error, QString sentencia = {});
+    explicit ErrorBD(QSqlError error, QString sentencia = {}, QSqlDatabase db = {});
     const QSqlError& error() const noexcept { return error_; }
     const QString& sentencia() const noexcept { return sentencia_; }
+    // The connection that failed (invalid when unknown).
+    const QSqlDatabase& conexion() const noexcept { return db_; }
     // What the user is shown: the driver's and the database's own words.
     QString texto() const;
     const char* what() const noexcept override;
@@ -26,6 +28,7 @@ public:
 private:
     QSqlError error_;
     QString sentencia_;
+    QSqlDatabase db_;
     QByteArray mensaje_;
 };
 
@@ -43,6 +46,11 @@ bool esClaveDuplicada(const QSqlError& error);
 
 // The connection was lost or the server went away.
 bool esConexionPerdida(const QSqlError& error);
+
+// After a lost connection: closes and opens it again with the same settings.
+// True when the connection is usable again. The statement that failed is not
+// repeated: whether it reached the server is unknown, and the user decides.
+bool reconectar(QSqlDatabase db);
 
 // RAII transaction: begun at construction, rolled back at destruction unless
 // confirmar() committed it. Throws ErrorBD when begin or commit fail.

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QTextCursor>
+#include <QValidator>
 
 using namespace Qt::StringLiterals;
 
@@ -51,9 +52,24 @@ static QKeyEvent teclaCambiada(const QKeyEvent* evento, int codigo)
     return QKeyEvent(evento->type(), 0, evento->modifiers(), QString(QChar(codigo)));
 }
 
+// Typed or pasted text: control characters (a Tab, a line break pasted from
+// elsewhere) become blanks, so that what is stored is what the box shows.
+class SinControles : public QValidator {
+public:
+    using QValidator::QValidator;
+    State validate(QString& texto, int&) const override
+    {
+        for (QChar& c : texto)
+            if (c.category() == QChar::Other_Control)
+                c = u' ';
+        return Acceptable;
+    }
+};
+
 CajaTexto::CajaTexto(QWidget* parent, int maxLength) : QLineEdit(parent)
 {
     setMaxLength(maxLength);
+    setValidator(new SinControles(this));
     connect(this, &QLineEdit::textChanged, this, [this] { Q_EMIT Change(); });
 }
 

@@ -42,8 +42,14 @@ int MsgBox(QWidget* padre, const QString& texto, int estiloCaja, const QString& 
 void mostrarErrorBD(QWidget* padre, const ErrorBD& error)
 {
     QString texto = error.texto();
-    if (esConexionPerdida(error.error()))
-        texto = u"Se perdió la conexión con la base de datos. La operación no se realizó.\n\n"_s + texto;
+    if (esConexionPerdida(error.error())) {
+        // The connection is opened again at once, so that the next operation can work.
+        const bool otraVez = reconectar(error.conexion());
+        texto = u"Se perdió la conexión con la base de datos y la operación no se completó.\n"_s
+            + (otraVez ? u"La conexión se restableció: revise los datos y repita la operación."_s
+                       : u"No se pudo restablecer la conexión: cierre esta ventana e intente más tarde."_s)
+            + u"\n\n"_s + texto;
+    }
     MsgBox(padre, texto, estilo::Critico, u"Error de base de datos"_s);
 }
 

@@ -34,7 +34,7 @@ void clsGrillas::LlenarGrilla(QSqlDatabase& Conexion, Alfarje* Grid, const QStri
     if (!modelo->cargar(q, campos)) {
         const QSqlError error = q.lastError();
         modelo->vaciar();
-        throw ErrorBD(error, Sql);
+        throw ErrorBD(error, Sql, Conexion);
     }
 }
 

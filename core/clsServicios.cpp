@@ -111,7 +111,7 @@ void clsServicios::LlenarCombo(QSqlDatabase& Conexion, const QString& Sql, const
         claves.append(clave >= 0 ? q.value(clave) : QVariant());
     }
     if (q.lastError().isValid())
-        throw ErrorBD(q.lastError(), Sql);
+        throw ErrorBD(q.lastError(), Sql, Conexion);
     for (qsizetype i = 0; i < textos.size(); ++i)
         Combo->addItem(textos.at(i), claves.at(i));
     Combo->setCurrentIndex(Combo->count() > 0 ? 0 : -1);

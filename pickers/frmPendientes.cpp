@@ -1,16 +1,70 @@
 #include "pickers/frmPendientes.h"
 
-#include <QLabel>
+#include "core/Alfarje.h"
+#include "core/BaseDatos.h"
+#include "core/Controles.h"
+#include "core/Module1.h"
+
 #include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
 
 namespace nomencla {
 
-frmPendientes::frmPendientes() : Formulario(QStringLiteral("frmPendientes"), QStringLiteral("Documentos pendientes"), false) {}
+frmPendientes::frmPendientes() : Formulario(u"frmPendientes"_s, u"Lista de comprobantes no guardados"_s, true) {}
 
 void frmPendientes::Disenar(QWidget* lienzo)
 {
     auto* disposicion = new QVBoxLayout(lienzo);
-    disposicion->addWidget(new QLabel(QStringLiteral("Documentos pendientes"), lienzo));
+    GR = new Alfarje(lienzo);
+    GR->setObjectName(u"GR"_s);
+    GR->setFormatocolumnas(u"<CODIGO REF.   |<NUMERO COMPROBANTE |."_s);
+    GR->setShowrownumbers(true);
+    GR->setTotalslineshow(false);
+    GR->setMinimumSize(340, 300);
+    disposicion->addWidget(GR);
+    connect(GR, &Alfarje::Click, this, [this] { Elegir(); });
+    GR->setFocus();
+}
+
+void frmPendientes::Form_Load()
+{
+    M().ValorDocumento = 0;
+    GR->setRedraw(false);
+    // Before any call has stored a company the key is empty text, not NULL:
+    // the documents kept with an empty key are then the ones listed.
+    const QString idEmp = M().IdEmp.isNull() ? u""_s : M().IdEmp;
+    operacion([&] {
+        // No ORDER BY: the rows come in the store's own order.
+        QSqlQuery q = ejecutar(M().ConexionAcces, u"SELECT distinct cod, numdoc from BkUpfac WHERE id=? AND tip=?"_s,
+                               {idEmp, qint64(M().TipoPendiente)});
+        while (q.next())
+            GR->AddItem(q.value(0).toString() + u'\t' + q.value(1).toString());
+        if (q.lastError().isValid())
+            throw ErrorBD(q.lastError());
+    });
+    GR->setRedraw(true);
+    GR->setRow(0);
+}
+
+void frmPendientes::Elegir()
+{
+    // An empty list (no row selected) gives 0, like Esc.
+    const qint32 fila = GR->Row();
+    M().ValorDocumento = fila >= 0 ? qint32(GR->CellValue(fila, 0)) : 0;
+    Unload();
+}
+
+void frmPendientes::Form_KeyPress(int& KeyAscii)
+{
+    if (KeyAscii == vbKeyReturn) {
+        KeyAscii = 0;
+        Elegir();
+    } else if (KeyAscii == vbKeyEscape) {
+        KeyAscii = 0;
+        M().ValorDocumento = 0;
+        Unload();
+    }
 }
 
 } // namespace nomencla

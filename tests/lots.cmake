@@ -1,0 +1,2 @@
+nomencla_prueba(prueba_lotes prueba_lotes.cpp)
+nomencla_prueba(prueba_caducidades prueba_caducidades.cpp)

@@ -1,0 +1,1 @@
+nomencla_prueba(prueba_selectores prueba_selectores.cpp)
