@@ -30,7 +30,7 @@ void ListaSimple::Disenar(QWidget* lienzo)
 
     auto* etiqueta = new Etiqueta(d_.etiquetaTexto, lienzo);
     etiqueta->setObjectName(u"Label1(0)"_s);
-    Text1 = new CajaTexto(lienzo, 25);
+    Text1 = new CajaTexto(lienzo, d_.largoTexto);
     Text1->setObjectName(u"Text1"_s);
     etiqueta->setBuddy(Text1);
 
@@ -61,11 +61,25 @@ void ListaSimple::Disenar(QWidget* lienzo)
 
     rejilla->addWidget(etiqueta, 0, 0);
     rejilla->addWidget(Text1, 0, 1);
-    rejilla->addLayout(botones, 1, 0, 1, 2);
-    rejilla->addWidget(lista, 2, 0, 1, 2);
-    rejilla->addWidget(GR, 3, 0, 1, 2);
+    QWidget* ultimo = Text1;
+    int fila = 1;
+    if (!d_.etiquetaSegundo.isEmpty()) {
+        auto* etiqueta2 = new Etiqueta(d_.etiquetaSegundo, lienzo);
+        etiqueta2->setObjectName(u"Label1(2)"_s);
+        Text2 = new CajaTexto(lienzo, d_.largoSegundo);
+        Text2->setObjectName(u"Text2"_s);
+        etiqueta2->setBuddy(Text2);
+        rejilla->addWidget(etiqueta2, fila, 0);
+        rejilla->addWidget(Text2, fila, 1);
+        setTabOrder(Text1, Text2);
+        ultimo = Text2;
+        ++fila;
+    }
+    rejilla->addLayout(botones, fila, 0, 1, 2);
+    rejilla->addWidget(lista, fila + 1, 0, 1, 2);
+    rejilla->addWidget(GR, fila + 2, 0, 1, 2);
 
-    setTabOrder(Text1, agregar);
+    setTabOrder(ultimo, agregar);
     setTabOrder(agregar, nuevo);
     setTabOrder(nuevo, quitar);
     setTabOrder(quitar, GR);
@@ -76,7 +90,7 @@ void ListaSimple::Disenar(QWidget* lienzo)
     // The search as the user types, on the raw text; no match selects nothing.
     connect(Text1, &CajaTexto::Change, this, [this] { GR->setRow(GR->FindRow(Text1->text(), 0, 5, false)); });
     connect(Text1, &CajaTexto::KeyPress, this, [this](int& KeyAscii) {
-        if (KeyAscii == vbKeyReturn)
+        if (KeyAscii == vbKeyReturn && d_.enterGuarda)
             Bt_Click(0);
     });
     Text1->setFocus();
@@ -116,14 +130,17 @@ void ListaSimple::Bt_Click(int Index)
 void ListaSimple::Guardar()
 {
     const QString nombre = Text1->text().trimmed();
-    if (nombre.isEmpty()) {
+    const QString segundo = Text2 ? Text2->text().trimmed() : QString();
+    if (nombre.isEmpty() || (Text2 && segundo.isEmpty())) {
         MsgBox(this, d_.msgVacio, estilo::Critico, u"Error"_s);
     } else if (GR->FindRow(nombre, 0, 0, false) >= 0) {
         MsgBox(this, d_.msgDuplicado, estilo::Exclamacion, u"AVISO"_s);
     } else {
         const bool hecho = operacion([&] {
-            QSqlQuery q = ejecutar(M().Conexion, d_.insertar.sql, d_.insertar.enlazar(M().IdEmp, {nombre}));
+            QSqlQuery q = ejecutar(M().Conexion, d_.insertar.sql, d_.insertar.enlazar(M().IdEmp, {nombre, {}, segundo}));
             QStringList fila{nombre};
+            if (Text2)
+                fila.append(segundo);
             if (d_.porClave) {
                 // The new row carries its key, so it can be removed in this same opening.
                 QVariant clave = q.lastInsertId();
@@ -134,8 +151,7 @@ void ListaSimple::Guardar()
             GR->AddItem(fila);
         });
         if (hecho) {
-            Text1->setText(QString());
-            Text1->setFocus();
+            vaciar();
             M().HuboCambios = true;
             MsgBox(this, u"La información se ha guardado correctamente!"_s, estilo::Informacion, u"Listo"_s);
         }
@@ -145,7 +161,14 @@ void ListaSimple::Guardar()
 
 void ListaSimple::Nuevo()
 {
+    vaciar();
+}
+
+void ListaSimple::vaciar()
+{
     Text1->setText(QString());
+    if (Text2)
+        Text2->setText(QString());
     Text1->setFocus();
 }
 
@@ -158,10 +181,13 @@ void ListaSimple::Quitar()
     const QString clave = d_.porClave ? GR->CellText(fila, 1) : QString();
     if (d_.porClave && clave.isEmpty())
         return; // a row without its key cannot be addressed
-    const QVariantList propios{nombre, clave.toLongLong()};
+    const QVariantList propios{nombre, clave.toLongLong(), GR->CellText(fila, 1)};
     if (!d_.referencia.vacia()) {
         QVariant usos;
         if (!operacion([&] {
+                if (!d_.suplente.vacia()
+                    && consultarValor(M().Conexion, d_.suplente.sql, d_.suplente.enlazar(M().IdEmp, propios)).toLongLong() > 0)
+                    return;
                 usos = M().servicios().ConsultarValor(M().Conexion, d_.referencia.sql,
                                                       d_.referencia.enlazar(M().IdEmp, propios));
             }))
@@ -178,8 +204,7 @@ void ListaSimple::Quitar()
     GR->RemoveItem();
     M().HuboCambios = true;
     MsgBox(this, u"La operación se realizó correctamente!"_s, estilo::Informacion, u"Listo"_s);
-    Text1->setText(QString());
-    Text1->setFocus();
+    vaciar();
 }
 
 } // namespace nomencla

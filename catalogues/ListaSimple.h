@@ -20,13 +20,19 @@ struct DatosListaSimple {
     QString etiquetaTexto;   // caption of Text1, with its access key
     QString etiquetaLista;
     QString txNuevo;         // caption of Bt(1)
+    int largoTexto = 25;     // MaxLength of Text1
+    QString etiquetaSegundo; // caption of Text2; empty: the list has no second box
+    int largoSegundo = 10;   // MaxLength of Text2
+    bool enterGuarda = true; // Enter in Text1 saves
     bool keyPreview = false;
     bool grillasPropias = false; // a grid filler of its own instead of the shared one
-    // Statements; V0 is the name, V1 the row's key.
+    // Statements; V0 is the name, V1 the row's key, V2 the second text (Text2
+    // for a save, the row's second cell for a removal).
     Sentencia lista;
     QString campos;
     Sentencia insertar;
     Sentencia referencia;    // empty: no reference check
+    Sentencia suplente;      // counts other rows that still answer for the references; above 0 skips the check
     Sentencia borrar;
     bool porClave = false;   // rows carry their key in the second cell
     // Messages; %1 is the name.
@@ -56,7 +62,9 @@ private:
     std::unique_ptr<clsGrillas> grillas_;
     Alfarje* GR = nullptr;
     CajaTexto* Text1 = nullptr;
+    CajaTexto* Text2 = nullptr;
     void CargarLista();
+    void vaciar();
 };
 
 } // namespace nomencla

@@ -1,16 +1,14 @@
 #pragma once
-// Not built yet: a placeholder dialog that only shows its caption.
-#include "core/Formulario.h"
+// Contract numbers of the company; a removal only marks them inactive.
+#include "catalogues/ListaNombrada.h"
 
 namespace nomencla {
 
-class frmLsContratos : public Formulario {
+class frmLsContratos : public ListaNombrada {
     Q_OBJECT
 public:
     frmLsContratos();
-
-protected:
-    void Disenar(QWidget* lienzo) override;
+    static const DatosListaNombrada& datos();
 };
 
 } // namespace nomencla

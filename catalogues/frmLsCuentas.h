@@ -1,16 +1,15 @@
 #pragma once
-// Not built yet: a placeholder dialog that only shows its caption.
-#include "core/Formulario.h"
+// Accounts of the company; the twin of the contracts, but Esc closes it from
+// any control. A removal only marks them inactive.
+#include "catalogues/ListaNombrada.h"
 
 namespace nomencla {
 
-class frmLsCuentas : public Formulario {
+class frmLsCuentas : public ListaNombrada {
     Q_OBJECT
 public:
     frmLsCuentas();
-
-protected:
-    void Disenar(QWidget* lienzo) override;
+    static const DatosListaNombrada& datos();
 };
 
 } // namespace nomencla

@@ -1,16 +1,15 @@
 #pragma once
-// Not built yet: a placeholder dialog that only shows its caption.
-#include "core/Formulario.h"
+// Country names of the company; a removal deletes the row. Also opened over
+// the lot capture dialog, which reads HuboCambios as the public method does.
+#include "catalogues/ListaNombrada.h"
 
 namespace nomencla {
 
-class frmLsPaises : public Formulario {
+class frmLsPaises : public ListaNombrada {
     Q_OBJECT
 public:
     frmLsPaises();
-
-protected:
-    void Disenar(QWidget* lienzo) override;
+    static const DatosListaNombrada& datos();
 };
 
 } // namespace nomencla

@@ -1,16 +1,16 @@
 #pragma once
-// Not built yet: a placeholder dialog that only shows its caption.
-#include "core/Formulario.h"
+// The company's units of measure or presentation: a name and its
+// abbreviation, added and removed like the plain-name lists. Articles point at
+// a unit by its abbreviation.
+#include "catalogues/ListaSimple.h"
 
 namespace nomencla {
 
-class frmMedidas : public Formulario {
+class frmMedidas : public ListaSimple {
     Q_OBJECT
 public:
     frmMedidas();
-
-protected:
-    void Disenar(QWidget* lienzo) override;
+    static const DatosListaSimple& datos();
 };
 
 } // namespace nomencla
