@@ -15,28 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace nomencla {
 
-namespace {
-
-// The leading number of a text, with a point as the decimal mark; 0 when
-// there is none (an empty commission box saves 0).
-double Val(const QString& texto)
-{
-    const QString t = texto.trimmed();
-    qsizetype fin = 0;
-    bool punto = false;
-    if (fin < t.size() && (t[fin] == u'-' || t[fin] == u'+'))
-        ++fin;
-    while (fin < t.size() && (t[fin].isDigit() || (t[fin] == u'.' && !punto))) {
-        punto = punto || t[fin] == u'.';
-        ++fin;
-    }
-    bool ok = false;
-    const double v = t.left(fin).toDouble(&ok);
-    return ok ? v : 0.0;
-}
-
-} // namespace
-
 const DatosListaNombrada& frmLsBancos::datos()
 {
     static const DatosListaNombrada d = [] {
@@ -152,7 +130,7 @@ void frmLsBancos::Bt_Click(int Index)
 
 void frmLsBancos::mostrarCampos(int fila)
 {
-    Check1->setValue(Val(GR->CellText(fila, 1)) != 0 ? 1 : 0);
+    Check1->setValue(clsServicios::Val(GR->CellText(fila, 1)) != 0 ? 1 : 0);
     Nm[0]->setText(GR->CellText(fila, 3));
     Nm[1]->setText(GR->CellText(fila, 4));
 }
@@ -160,7 +138,7 @@ void frmLsBancos::mostrarCampos(int fila)
 QVariantList frmLsBancos::valoresPropios() const
 {
     // Read whether the commission boxes are in sight or not.
-    return {qint64(Check1->Value()), Val(Nm[0]->text()), Val(Nm[1]->text())};
+    return {qint64(Check1->Value()), clsServicios::Val(Nm[0]->text()), clsServicios::Val(Nm[1]->text())};
 }
 
 } // namespace nomencla
