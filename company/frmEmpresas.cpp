@@ -296,6 +296,14 @@ void frmEmpresas::MostrarRegistro()
     Check1[0]->setValue(int(GR->CellValue(fila, 3)));
     Check1[1]->setValue(int(GR->CellValue(fila, 2)));
     NombreAnterior = GR->CellText(fila, 0);
+    // The stored logo is shown with its company, unless a file chosen for the
+    // next save is waiting: that one stays in view.
+    if (!LogoElegido)
+        operacion([&] {
+            const QVariant logo = consultarValor(M().Conexion, u"SELECT logo FROM empresas WHERE cod=? AND id=?"_s,
+                                                 {CodigoActual, M().IdEmp});
+            P1->mostrar(QImage::fromData(logo.toByteArray()));
+        });
     Tx[0]->setFocus();
     modoExistente(CodigoActual > 1);
 }

@@ -163,8 +163,9 @@ void Alfarje::setFormatocolumnas(const QString& formato)
         if (c < entradas.size()) {
             const Entrada& e = entradas[c];
             h->setSectionHidden(c, e.oculta);
+            // The entry's length sets the width, but never narrower than its title.
             if (!e.oculta)
-                h->resizeSection(c, e.largo * ancho);
+                h->resizeSection(c, std::max(e.largo * ancho, h->fontMetrics().horizontalAdvance(e.titulo) + 2 * ancho));
         } else {
             h->setSectionHidden(c, true); // fields beyond the declared columns
         }

