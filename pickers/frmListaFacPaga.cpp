@@ -83,8 +83,10 @@ void frmListaFacPaga::Form_Load()
     operacion([&] {
         M().grillas().LlenarGrilla(
             M().Conexion, GR,
-            u"SELECT CONCAT(F.estab , '-' , F.pem , '-' , CAST(F.num AS CHAR)) AS numf, P.cap, P.inte, P.cap+ P.inte as tot FROM tCuePagoCli P INNER JOIN tcabfac F ON P.fac = F.cod WHERE P.cab=?"_s,
-            {qint64(M().ValorDocumento)}, u"numf,cap,inte,tot"_s, false, true);
+            u"SELECT CONCAT(F.estab , '-' , F.pem , '-' , CAST(F.num AS CHAR)) AS numf, P.cap, P.inte, P.cap+ P.inte as tot FROM tCuePagoCli P INNER JOIN tcabfac F ON P.fac = F.cod WHERE P.cab=?"_s
+            // Only the lines of this company's payment: the lines carry no company key of their own.
+            u" AND P.cab IN (SELECT cod FROM tCabPagoCli WHERE id=?)"_s,
+            {qint64(M().ValorDocumento), M().IdEmp}, u"numf,cap,inte,tot"_s, false, true);
     });
     // The totals line shows the sums as plain numbers.
     for (int col = 1; col <= 3; ++col)

@@ -301,10 +301,13 @@ private Q_SLOTS:
         QCOMPARE(etiquetas[2], u"5.00"_s);
         QVERIFY(facturas.isEmpty());
 
-        // Another company's payment: empty header, its lines still listed.
+        // Another company's payment: empty header and none of its lines.
         alAbrir(u"frmListaFacPaga"_s, leer);
         nomencla.ListaFacturasCanceladas(u"1"_s, 12, db);
         QCOMPARE(etiquetas, (QStringList{QString(), QString(), QString()}));
+        QVERIFY(facturas.isEmpty());
+        alAbrir(u"frmListaFacPaga"_s, leer);
+        nomencla.ListaFacturasCanceladas(u"2"_s, 12, db);
         QCOMPARE(facturas, QStringList{u"002-001-7"_s});
 
         // A payment without date: that label empty, the rest shown.
