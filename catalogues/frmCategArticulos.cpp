@@ -1,31 +1,22 @@
 #include "catalogues/frmCategArticulos.h"
 
+#include "catalogues/frmLsCiudad.h"
+
 using namespace Qt::StringLiterals;
 
 namespace nomencla {
 
 const DatosListaSimple& frmCategArticulos::datos()
 {
+    // The cities' statements and messages, unchanged, under the titles of article categories.
     static const DatosListaSimple d = [] {
-        DatosListaSimple x;
+        DatosListaSimple x = frmLsCiudad::datos();
         x.forma = u"frmCategArticulos"_s;
         x.titulo = u"Categorías de artículos"_s;
         x.formato = u"<C A T E G O R I A                    "_s;
         x.etiquetaTexto = u"&Categoría:"_s;
         x.etiquetaLista = u"Lista de categorías registradas"_s;
-        x.txNuevo = u"&Nueva"_s;
         x.keyPreview = false;
-        x.grillasPropias = true;
-        x.lista = {u"SELECT ciu FROM lsCiudades WHERE  id=? ORDER BY ciu"_s, {Valor::Empresa}};
-        x.campos = u"Ciu"_s;
-        x.insertar = {u"INSERT INTO lsCiudades (id,ciu) VALUES (?,?)"_s, {Valor::Empresa, Valor::V0}};
-        x.referencia = {u"SELECT COUNT(cod) AS tot FROM mCliente WHERE  id=? AND  ciu=?"_s, {Valor::Empresa, Valor::V0}};
-        x.borrar = {u"DELETE FROM lsciudades WHERE  id=? AND  ciu=?"_s, {Valor::Empresa, Valor::V0}};
-        x.porClave = false;
-        x.msgVacio = u"Debe especificar el nombre de la ciudad!"_s;
-        x.msgDuplicado = u"La ciudad que intenta guardar ya está registrada en la base de datos!"_s;
-        x.msgReferencia = u"No se puede quitar la ciudad ''%1'' debido a que se encuentra asignada a uno o mas clientes!"_s;
-        x.msgConfirmar = u"Está seguro que desea quitar la ciudad ''%1'' de la base de datos?"_s;
         return x;
     }();
     return d;

@@ -65,7 +65,7 @@ QSqlDatabase otraConexion(const QSqlDatabase& base, const QString& nombreConexio
     return conectar(nombreConexion, base.databaseName());
 }
 
-QVariant valor(QSqlDatabase& db, const QString& sql, const QVariantList& valores)
+static QSqlQuery consultar(QSqlDatabase& db, const QString& sql, const QVariantList& valores)
 {
     QSqlQuery q(db);
     q.prepare(sql);
@@ -73,17 +73,18 @@ QVariant valor(QSqlDatabase& db, const QString& sql, const QVariantList& valores
         q.addBindValue(v);
     if (!q.exec())
         qFatal("SQL failed: %s\n%s", qPrintable(q.lastError().text()), qPrintable(sql));
+    return q;
+}
+
+QVariant valor(QSqlDatabase& db, const QString& sql, const QVariantList& valores)
+{
+    QSqlQuery q = consultar(db, sql, valores);
     return q.next() ? q.value(0) : QVariant();
 }
 
 QStringList filas(QSqlDatabase& db, const QString& sql, const QVariantList& valores)
 {
-    QSqlQuery q(db);
-    q.prepare(sql);
-    for (const QVariant& v : valores)
-        q.addBindValue(v);
-    if (!q.exec())
-        qFatal("SQL failed: %s\n%s", qPrintable(q.lastError().text()), qPrintable(sql));
+    QSqlQuery q = consultar(db, sql, valores);
     QStringList r;
     while (q.next()) {
         QStringList celdas;
