@@ -52,16 +52,37 @@ static QKeyEvent teclaCambiada(const QKeyEvent* evento, int codigo)
     return QKeyEvent(evento->type(), 0, evento->modifiers(), QString(QChar(codigo)));
 }
 
+// The first `largo` units of a text, without the half of a character (an
+// emoji) that the cut would leave.
+static QString cortar(const QString& texto, qsizetype largo)
+{
+    QString r = texto.left(largo);
+    if (r.size() < texto.size() && !r.isEmpty() && r.back().isHighSurrogate())
+        r.chop(1);
+    return r;
+}
+
 // Typed or pasted text: control characters (a Tab, a line break pasted from
-// elsewhere) become blanks, so that what is stored is what the box shows.
+// elsewhere) become blanks, so that what is stored is what the box shows; a
+// character cut in half at the limit goes.
 class SinControles : public QValidator {
 public:
     using QValidator::QValidator;
-    State validate(QString& texto, int&) const override
+    State validate(QString& texto, int& posicion) const override
     {
         for (QChar& c : texto)
             if (c.category() == QChar::Other_Control)
                 c = u' ';
+        for (qsizetype i = 0; i < texto.size(); ++i) {
+            const bool par = texto[i].isHighSurrogate() ? i + 1 < texto.size() && texto[i + 1].isLowSurrogate()
+                                                       : !texto[i].isLowSurrogate();
+            if (texto[i].isHighSurrogate() && par)
+                ++i;
+            else if (!par) {
+                texto.remove(i--, 1);
+                posicion = std::min<int>(posicion, int(texto.size()));
+            }
+        }
         return Acceptable;
     }
 };
@@ -124,7 +145,7 @@ CajaTextoMultilinea::CajaTextoMultilinea(QWidget* parent, int maxLength)
 
 void CajaTextoMultilinea::setText(const QString& texto)
 {
-    setPlainText(texto.left(maxLength_));
+    setPlainText(cortar(texto, maxLength_));
 }
 
 void CajaTextoMultilinea::setMaxLength(int n)
@@ -141,9 +162,9 @@ void CajaTextoMultilinea::limitar()
     QTextCursor cursor = textCursor();
     const int posicion = std::min<int>(cursor.position(), maxLength_);
     const QSignalBlocker bloqueo(this);
-    setPlainText(texto.left(maxLength_));
+    setPlainText(cortar(texto, maxLength_));
     cursor = textCursor();
-    cursor.setPosition(posicion);
+    cursor.setPosition(std::min<int>(posicion, int(toPlainText().size())));
     setTextCursor(cursor);
 }
 
@@ -180,7 +201,7 @@ void CajaTextoMultilinea::insertFromMimeData(const QMimeData* origen)
         return;
     const int libre = maxLength_ - int(toPlainText().size()) + int(textCursor().selectedText().size());
     if (libre > 0)
-        insertPlainText(origen->text().left(libre));
+        insertPlainText(cortar(origen->text(), libre));
 }
 
 Etiqueta::Etiqueta(const QString& texto, QWidget* parent) : QLabel(texto, parent)

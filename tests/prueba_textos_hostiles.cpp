@@ -8,6 +8,7 @@
 #include <nomencla/clsNomencla.h>
 
 #include <QLineEdit>
+#include <QPlainTextEdit>
 
 using namespace Qt::StringLiterals;
 using namespace prueba;
@@ -36,6 +37,137 @@ const QList<Entrada>& entradas()
         {u"   Lago Agrio   "_s, u"Lago Agrio"_s},
         {u"Santo Domingo de los Tsáchilas y más"_s, u"Santo Domingo de los Tsác"_s},
         {u"\u0000nul"_s, u"nul"_s},
+        {u"%%"_s, u"%%"_s},
+        {u"__"_s, u"__"_s},
+    };
+    return lista;
+}
+
+// What a box keeps of a paste: one-line boxes turn control characters into
+// blanks; all cut at the limit, never half a character; the dialog trims.
+QString guardable(QString t, int largo, bool varias)
+{
+    if (!varias)
+        for (QChar& c : t)
+            if (c.category() == QChar::Other_Control)
+                c = u' ';
+    t.truncate(largo);
+    if (!t.isEmpty() && t.back().isHighSurrogate())
+        t.chop(1);
+    return t.trimmed();
+}
+
+struct Caja {
+    QString nombre;
+    QString columna;
+    int largo;
+    bool varias = false;
+};
+
+struct Dialogo {
+    QString forma;
+    bool (clsNomencla::*abrir)(const QString&, QSqlDatabase&);
+    QString tabla, clave, previas; // previas: rows of both tenants there before
+    QString listo;                 // the message of a save
+    int minimo;                    // shorter (trimmed) is refused
+    QString corto;                 // with this message ("": silently)
+    QList<Caja> cajas;
+};
+
+struct Cuenta {
+    int dialogos = 0, cajas = 0, entradas = 0, filas = 0;
+} cuenta;
+
+// Every input pasted into every box of the dialog (the other boxes filled
+// with plain text), saved, and the new row read back; older rows unchanged.
+void probar(QSqlDatabase& db, const Dialogo& dlg)
+{
+    ejecutarSql(db, dlg.previas);
+    const QString antes = u"SELECT * FROM %1 ORDER BY %2"_s.arg(dlg.tabla, dlg.clave);
+    const QStringList viejas = filas(db, antes);
+    const QString cuantas = u"SELECT COUNT(*) FROM "_s + dlg.tabla;
+    Cajas cajas;
+    int relleno = 0;
+    alAbrir(dlg.forma, [&](QWidget* d) {
+        for (const Caja& caja : dlg.cajas) {
+            QList<Entrada> lista = entradas();
+            lista << Entrada{QString(caja.largo, u'y') + u"z"_s, {}}
+                  << Entrada{QString(caja.largo - 1, u'x') + u"😀"_s, {}};
+            for (const Entrada& e : lista) {
+                for (const Caja& otra : dlg.cajas)
+                    control<QWidget>(d, otra.nombre)->setProperty("text", u"r%1"_s.arg(++relleno, 2, 10, QChar(u'0')));
+                QWidget* w = control<QWidget>(d, caja.nombre);
+                w->setProperty("text", QString());
+                if (auto* le = qobject_cast<QLineEdit*>(w))
+                    le->insert(e.pegado);
+                else
+                    qobject_cast<QPlainTextEdit*>(w)->insertPlainText(e.pegado);
+                const QString esperado = guardable(e.pegado, caja.largo, caja.varias);
+                const int n = valor(db, cuantas).toInt();
+                cajas.limpiar();
+                pulsar(d, u"Bt(0)"_s);
+                ++cuenta.entradas;
+                if (esperado.size() < std::max(dlg.minimo, 1)) {
+                    QCOMPARE(cajas.ultima(), dlg.corto);
+                    QCOMPARE(valor(db, cuantas).toInt(), n);
+                    continue;
+                }
+                QCOMPARE(cajas.ultima(), dlg.listo);
+                QCOMPARE(valor(db, cuantas).toInt(), n + 1);
+                const QString leido = valor(db, u"SELECT %1 FROM %2 WHERE id='1' ORDER BY %3 DESC LIMIT 1"_s.arg(
+                                                    caja.columna, dlg.tabla, dlg.clave))
+                                          .toString();
+                QCOMPARE(leido, esperado);
+                ++cuenta.filas;
+            }
+            ++cuenta.cajas;
+        }
+    });
+    clsNomencla nomencla;
+    QVERIFY((nomencla.*dlg.abrir)(u"1"_s, db));
+    QCOMPARE(filas(db, antes).mid(0, viejas.size()), viejas);
+    cuenta.filas += int(viejas.size());
+    ++cuenta.dialogos;
+}
+
+const QList<Dialogo>& listas()
+{
+    const QString bien = u"La información se ha guardado correctamente!"_s;
+    const QString exito = u"La información se ha guardado con éxito!"_s;
+    const QString ajena = u"('2','O''Brien'),('1','Zzyzx')"_s;
+    static const QList<Dialogo> lista{
+        {u"frmLsDepartam"_s, &clsNomencla::Departamentos, u"lsDepartam"_s, u"pk"_s,
+         u"INSERT INTO lsDepartam (id,depa) VALUES "_s + ajena, bien, 1,
+         u"Debe especificar el nombre del departamento!"_s, {{u"Text1"_s, u"depa"_s, 25}}},
+        {u"frmLsContenido"_s, &clsNomencla::Contenidos, u"lsContenidos"_s, u"cod"_s,
+         u"INSERT INTO lsContenidos (id,nom) VALUES "_s + ajena, bien, 1, u"Debe especificar el nombre del objeto!"_s,
+         {{u"Text1"_s, u"nom"_s, 25}}},
+        {u"frmMedidas"_s, &clsNomencla::Medidas, u"aMedidas"_s, u"pk"_s,
+         u"INSERT INTO aMedidas (id,med,abr) VALUES ('2','O''Brien','o'),('1','Zzyzx','z')"_s, bien, 1,
+         u"Debe especificar el nombre y la abreviación de la medida/presentacion!"_s,
+         {{u"Text1"_s, u"med"_s, 20}, {u"Text2"_s, u"abr"_s, 10}}},
+        {u"frmLsCategorias"_s, &clsNomencla::CategoriaClientes, u"mCatClie"_s, u"pk"_s,
+         u"INSERT INTO mCatClie (id,cod,cat,des) VALUES ('2',1,'O''Brien','x'),('1',1,'Zzyzx','z')"_s, exito, 2,
+         u"Debe especificar el nombre de la categoría!"_s,
+         {{u"Tx(0)"_s, u"cat"_s, 50}, {u"Tx(1)"_s, u"des"_s, 150, true}}},
+        {u"frmLsDocAutSRI"_s, &clsNomencla::DocumentAutorizSRI, u"SRI_Documentos"_s, u"cod"_s,
+         u"INSERT INTO SRI_Documentos (id,cin,des) VALUES ('2','01','O''Brien'),('1','Zzy','z')"_s, exito, 2,
+         u"Debe especificar el nombre del documento autorizado por el SRI!"_s,
+         {{u"Tx(0)"_s, u"cin"_s, 3}, {u"Tx(1)"_s, u"des"_s, 30}}},
+        {u"frmLsTipoCli"_s, &clsNomencla::TipoClientes, u"mTipClie"_s, u"pk"_s,
+         u"INSERT INTO mTipClie (id,cod,tip,des) VALUES ('2',1,'O''Brien','x'),('1',1,'Zzyzx','z')"_s, exito, 2,
+         u"Debe especificar el nombre del tipo de cliente!"_s,
+         {{u"Tx(0)"_s, u"tip"_s, 50}, {u"Tx(1)"_s, u"des"_s, 150, true}}},
+        {u"frmLsZona"_s, &clsNomencla::ZonaClientes, u"mZonaClie"_s, u"pk"_s,
+         u"INSERT INTO mZonaClie (id,cod,zon,des) VALUES ('2',1,'O''Brien','x'),('1',1,'Zzyzx','z')"_s, exito, 2,
+         u"Debe especificar el nombre de la zona!"_s,
+         {{u"Tx(0)"_s, u"zon"_s, 50}, {u"Tx(1)"_s, u"des"_s, 150, true}}},
+        {u"frmLsContratos"_s, &clsNomencla::Contratos, u"lscontratos"_s, u"cod"_s,
+         u"INSERT INTO lscontratos (id,con) VALUES "_s + ajena, exito, 2, {}, {{u"Text1"_s, u"con"_s, 60}}},
+        {u"frmLsPaises"_s, &clsNomencla::Paises, u"lsPaises"_s, u"cod"_s,
+         u"INSERT INTO lsPaises (id,nom) VALUES "_s + ajena, exito, 6, {}, {{u"Text1"_s, u"nom"_s, 60}}},
+        {u"frmLsBancos"_s, &clsNomencla::Bancos, u"lsBancos"_s, u"cod"_s,
+         u"INSERT INTO lsBancos (id,nom) VALUES "_s + ajena, exito, 6, {}, {{u"Text1"_s, u"nom"_s, 60}}},
     };
     return lista;
 }
@@ -77,13 +209,61 @@ private Q_SLOTS:
         QVERIFY(nomencla.Ciudades(u"1"_s, db));
         QStringList esperado;
         for (const Entrada& e : entradas())
-            esperado << e.guardado.trimmed();
+            esperado << guardable(e.pegado, 25, false);
         esperado.removeAll(QString()); // nothing to save
         QCOMPARE(enGrilla, esperado);
         esperado.removeAll(u"'); DROP TABLE x; --"_s);
         QStringList guardado = filas(db, u"SELECT ciu FROM lsCiudades WHERE id='1' ORDER BY pk"_s);
         QCOMPARE(guardado, esperado);
         QCOMPARE(filas(db, u"SELECT * FROM lsCiudades WHERE id='2' ORDER BY pk"_s), otroAntes);
+    }
+
+    void en_cada_caja_de_cada_lista_data()
+    {
+        QTest::addColumn<int>("indice");
+        for (int i = 0; i < int(listas().size()); ++i)
+            QTest::newRow(qPrintable(listas()[i].forma + QString::number(i))) << i;
+    }
+
+    void en_cada_caja_de_cada_lista()
+    {
+        QFETCH(int, indice);
+        QSqlDatabase db = baseNueva(u"t_hostiles"_s);
+        probar(db, listas()[indice]);
+    }
+
+    // The lot and its sanitary registration come back exactly.
+    void en_la_captura_de_lotes()
+    {
+        QSqlDatabase db = baseNueva(u"t_hostiles"_s);
+        ejecutarSql(db, u"INSERT INTO lsPaises (id,nom) VALUES ('1','Ecuador')"_s);
+        clsNomencla nomencla;
+        for (const Entrada& e : entradas()) {
+            Cajas cajas;
+            alAbrir(u"frmLotes"_s, [&](QWidget* d) {
+                control<QLineEdit>(d, u"Text1(0)"_s)->insert(e.pegado);
+                control<QLineEdit>(d, u"Text1(1)"_s)->insert(e.pegado);
+                pulsar(d, u"Bt(1)"_s);
+            });
+            InfoLotes r;
+            const QString lote = guardable(e.pegado, 15, false);
+            QCOMPARE(nomencla.AgregarLoteCaducidad(u"1"_s, db, r), !lote.isEmpty());
+            ++cuenta.entradas;
+            if (lote.isEmpty()) {
+                QVERIFY(cajas.ultima().startsWith(u"Debe especificar el lote"_s));
+                continue;
+            }
+            QCOMPARE(r.Lote, lote);
+            QCOMPARE(r.RegistroSanitario, guardable(e.pegado, 20, false));
+        }
+        cuenta.cajas += 2;
+        ++cuenta.dialogos;
+    }
+
+    void cleanupTestCase()
+    {
+        qInfo("dialogs %d, boxes %d, inputs %d, rows compared %d", cuenta.dialogos, cuenta.cajas, cuenta.entradas,
+              cuenta.filas);
     }
 };
 
