@@ -1,8 +1,9 @@
 // Faults while a dialog is open: the connection killed from another session,
 // a row locked until the lock wait times out, the server stopped and started
-// again. Each time the failure is shown, nothing is half written, the dialog
-// stays usable and the next operation works once the server is back.
-#include "tests/support/Prueba.h"
+// again, a table renamed away; in the middle of the multi-statement saves.
+// Each time the failure is shown, nothing is half written, the dialog stays
+// usable and the same operation works once the fault is gone.
+#include "tests/prueba_estructura.h"
 
 #include "core/Alfarje.h"
 
@@ -26,6 +27,138 @@ bool privdb(const QString& orden, const QString& dir)
     return p.waitForFinished(120000) && p.exitCode() == 0;
 }
 
+enum Falla { Matar, Bloquear, Renombrar };
+
+using Pasos = std::function<void(QWidget*)>;
+using Metodo = bool (clsNomencla::*)(const QString&, QSqlDatabase&);
+
+struct Caso {
+    const char* nombre;
+    QString forma;
+    Metodo metodo;
+    Falla falla;
+    QString sql; // Bloquear: the rows the second statement needs; Renombrar: the table
+    Pasos preparar;
+    Pasos actuar;
+    bool pregunta; // answered Yes
+    QStringList vista; // the rows the operation touches
+    QString exito; // its last box once the fault is gone ("" for none of its own)
+    QStringList despues; // those rows then (empty: as before)
+    std::function<bool(QWidget*)> hecho = [](QWidget*) { return true; };
+};
+
+QLineEdit* caja(QWidget* d, int i)
+{
+    return control<QLineEdit>(d, u"Tx(%1)"_s.arg(i));
+}
+
+Alfarje* grilla(QWidget* d, const QString& nombre = u"GR"_s)
+{
+    return control<Alfarje>(d, nombre);
+}
+
+Pasos elegir(const QString& texto)
+{
+    return [texto](QWidget* d) { dobleClic(grilla(d), filaCon(grilla(d), texto)); };
+}
+
+Pasos boton(int i)
+{
+    return [i](QWidget* d) { pulsar(d, u"Bt(%1)"_s.arg(i)); };
+}
+
+// A place waiting for the new zone: name, Enter, Enter.
+void lugar(QWidget* d, const QString& nombre)
+{
+    caja(d, 2)->setFocus();
+    caja(d, 2)->insert(nombre);
+    tecla(caja(d, 2), Qt::Key_Return);
+    tecla(caja(d, 3), Qt::Key_Return);
+}
+
+const QString guardada = u"La información se ha guardado con éxito!"_s;
+const QString quitada = u"La operación se realizó correctamente!"_s;
+const QStringList empresa{u"SELECT cod,emp,est FROM empresas ORDER BY cod"_s,
+                          u"SELECT id,nom,emp FROM Sucursales ORDER BY nom"_s};
+const QStringList zonas{u"SELECT id,cod,zon,est FROM mZonaClie ORDER BY id,cod"_s,
+                        u"SELECT id,zon,lug,ord FROM mZonaLugar ORDER BY id,zon,lug"_s,
+                        u"SELECT id,nom,zon,lug FROM mCliente ORDER BY nom"_s};
+const QStringList zonasAntes{
+    u"1|1|Norte|1"_s, u"1|2|Sur|1"_s, u"1|4|Este|1"_s, u"1|5|Vieja|0"_s, u"2|1|Norte|1"_s, u"1|1|Carcelén|1"_s,
+    u"1|1|Cotocollao|2"_s, u"1|2|Solanda|1"_s, u"1|4|Puembo|1"_s, u"2|1|Carcelén|1"_s, u"1|A|1|Carcelén"_s,
+    u"1|B|2|Carcelén"_s, u"2|C|1|Carcelén"_s, u"1|D|2|Solanda"_s};
+
+QStringList cambiar(QStringList filas, const QList<std::pair<int, QString>>& cambios)
+{
+    for (const auto& [i, texto] : cambios)
+        filas[i] = texto;
+    return filas;
+}
+
+const QList<Caso>& casos()
+{
+    static const QList<Caso> lista{
+        {"empresa: rellenar, conexion matada", u"frmEmpresas"_s, &clsNomencla::Empresas, Matar, {},
+         [](QWidget*) {}, elegir(u"Comercial Dos"_s), false, empresa, {}, {},
+         [](QWidget* d) { return tx(d, 0)->text() == u"Comercial Dos"_s; }},
+        {"empresa: guardar, conexion matada", u"frmEmpresas"_s, &clsNomencla::Empresas, Matar, {},
+         [](QWidget* d) { elegir(u"Comercial Dos"_s)(d); tx(d, 0)->setText(u"Comercial Tres"_s); }, boton(0), false,
+         empresa, guardada,
+         {u"1|Andina Matriz|1"_s, u"2|Comercial Tres|1"_s, u"3|Sin Sucursales|1"_s, u"5|Comercial Dos|1"_s,
+          u"1|A|Comercial Tres"_s, u"1|B|Comercial Tres"_s, u"2|D|Comercial Dos"_s, u"1|E|Sin Sucursales"_s}},
+        {"empresa: sucursales bloqueadas entre las dos sentencias", u"frmEmpresas"_s, &clsNomencla::Empresas, Bloquear,
+         u"SELECT * FROM Sucursales WHERE emp='Comercial Dos' FOR UPDATE"_s,
+         [](QWidget* d) { elegir(u"Comercial Dos"_s)(d); tx(d, 0)->setText(u"Comercial Tres"_s); }, boton(0), false,
+         empresa, guardada,
+         {u"1|Andina Matriz|1"_s, u"2|Comercial Tres|1"_s, u"3|Sin Sucursales|1"_s, u"5|Comercial Dos|1"_s,
+          u"1|A|Comercial Tres"_s, u"1|B|Comercial Tres"_s, u"2|D|Comercial Dos"_s, u"1|E|Sin Sucursales"_s}},
+        {"empresa: quitar, tabla renombrada", u"frmEmpresas"_s, &clsNomencla::Empresas, Renombrar, u"Sucursales"_s,
+         elegir(u"Sin Sucursales"_s), boton(1), true, empresa, quitada,
+         {u"1|Andina Matriz|1"_s, u"2|Comercial Dos|1"_s, u"3|Sin Sucursales|0"_s, u"5|Comercial Dos|1"_s,
+          u"1|A|Comercial Dos"_s, u"1|B|Comercial Dos"_s, u"2|D|Comercial Dos"_s, u"1|E|Sin Sucursales"_s}},
+        {"zona: rellenar lugares, conexion matada", u"frmLsZona"_s, &clsNomencla::ZonaClientes, Matar, {},
+         [](QWidget*) {}, elegir(u"Norte"_s), false, zonas, {}, {},
+         [](QWidget* d) { return grilla(d, u"GR2"_s)->RowCount() == 2; }},
+        {"zona: rellenar lugares, tabla renombrada", u"frmLsZona"_s, &clsNomencla::ZonaClientes, Renombrar,
+         u"mZonaLugar"_s, [](QWidget*) {}, elegir(u"Norte"_s), false, zonas, {}, {},
+         [](QWidget* d) { return grilla(d, u"GR2"_s)->RowCount() == 2; }},
+        {"zona: quitar, conexion matada", u"frmLsZona"_s, &clsNomencla::ZonaClientes, Matar, {},
+         elegir(u"Este"_s), boton(1), true, zonas, quitada, cambiar(zonasAntes, {{2, u"1|4|Este|0"_s}})},
+        {"zona nueva: lugares bloqueados tras la zona", u"frmLsZona"_s, &clsNomencla::ZonaClientes, Bloquear,
+         u"SELECT * FROM mZonaLugar FOR UPDATE"_s,
+         [](QWidget* d) {
+             teclear(caja(d, 0), u"Oriente"_s);
+             lugar(d, u"Puyo"_s);
+             lugar(d, u"Tena"_s);
+         },
+         boton(0), false, zonas, guardada,
+         QStringList{zonasAntes.mid(0, 4)} << u"1|6|Oriente|1"_s << zonasAntes.mid(4, 5) << u"1|6|Puyo|0"_s
+                                           << u"1|6|Tena|0"_s << zonasAntes.mid(9)},
+        {"lugar: clientes bloqueados tras el lugar", u"frmLsZona"_s, &clsNomencla::ZonaClientes, Bloquear,
+         u"SELECT * FROM mCliente WHERE zon=1 FOR UPDATE"_s,
+         [](QWidget* d) {
+             elegir(u"Norte"_s)(d);
+             d->activateWindow();
+             QVERIFY(QTest::qWaitForWindowActive(d));
+             auto* gr2 = grilla(d, u"GR2"_s);
+             QTest::mouseClick(gr2->viewport(), Qt::LeftButton, {}, gr2->visualRect(gr2->model()->index(0, 0)).center());
+             QCOMPARE(caja(d, 2)->text(), u"Carcelén"_s);
+             caja(d, 2)->setText(u"Carcelén Alto"_s);
+             caja(d, 3)->setText(u"4"_s);
+         },
+         boton(5), false, zonas, u"La información se ha guardado con éxito en la base de datos!"_s,
+         cambiar(zonasAntes, {{5, u"1|1|Carcelén Alto|4"_s}, {10, u"1|A|1|Carcelén Alto"_s}})},
+        {"categoria: guardar, conexion matada", u"frmLsCategorias"_s, &clsNomencla::CategoriaClientes, Matar, {},
+         [](QWidget* d) { caja(d, 0)->setText(u"Minorista"_s); }, boton(0), false,
+         {u"SELECT id,cod,cat,est FROM mCatClie ORDER BY id,cod"_s}, guardada,
+         {u"1|1|Mayorista|1"_s, u"1|2|Minorista|1"_s, u"2|1|Mayorista|1"_s}},
+        {"banco: quitar, conexion matada", u"frmLsBancos"_s, &clsNomencla::Bancos, Matar, {},
+         elegir(u"Produbanco"_s), boton(1), true, {u"SELECT id,nom,est FROM lsBancos ORDER BY cod"_s}, {},
+         {u"1|Banco Pichincha|1"_s, u"1|Produbanco|0"_s, u"2|Produbanco|1"_s}},
+    };
+    return lista;
+}
+
 } // namespace
 
 class PruebaFallos : public QObject {
@@ -38,6 +171,115 @@ private Q_SLOTS:
     {
         db = baseNueva(u"t_fallos"_s);
         ejecutarSql(db, u"INSERT INTO lsCiudades (id,ciu) VALUES ('1','Ambato'),('1','Quito'),('2','Ambato')"_s);
+    }
+
+    void operacion_con_falla_data()
+    {
+        QTest::addColumn<int>("i");
+        for (int i = 0; i < casos().size(); ++i)
+            QTest::newRow(casos()[i].nombre) << i;
+    }
+
+    // The fault, the critical box, the rows as before; the fault gone, the same
+    // operation in the same dialog works and writes all of it.
+    void operacion_con_falla()
+    {
+        QFETCH(int, i);
+        const Caso& c = casos()[i];
+        ejecutarSql(db, u"INSERT INTO empresas (cod,id,emp,act,suc,selec,art,nart,dir,tel,ciu,prov,est) VALUES "
+                        "(1,'1','Andina Matriz',0,1,1,0,'','d','1','Quito','Pichincha',1),"
+                        "(2,'1','Comercial Dos',1,2,0,1,'','d','1','Ambato','Tungurahua',1),"
+                        "(3,'1','Sin Sucursales',3,1,0,0,'','d','1','Loja','Loja',1),"
+                        "(5,'2','Comercial Dos',0,1,0,0,'','d','1','Manta','Manabí',1);\n"
+                        "INSERT INTO Sucursales (id,emp,ciu,nom,dir,tel,est) VALUES ('1','Comercial Dos','Ambato','A','d','1',1),"
+                        "('1','Comercial Dos','Ambato','B','d','1',0),('2','Comercial Dos','Manta','D','d','1',1),"
+                        "('1','Sin Sucursales','Loja','E','d','1',0);\n"
+                        "INSERT INTO mZonaClie (id,cod,zon,des,est) VALUES ('1',1,'Norte','',1),('1',2,'Sur','',1),"
+                        "('1',5,'Vieja','',0),('1',4,'Este','',1),('2',1,'Norte','',1);\n"
+                        "INSERT INTO mZonaLugar (id,zon,lug,ord,est) VALUES ('1',1,'Carcelén',1,1),('1',1,'Cotocollao',2,1),"
+                        "('1',2,'Solanda',1,1),('1',4,'Puembo',1,1),('2',1,'Carcelén',1,1);\n"
+                        "INSERT INTO mCliente (id,nom,zon,lug) VALUES ('1','A',1,'Carcelén'),('1','B',2,'Carcelén'),"
+                        "('2','C',1,'Carcelén'),('1','D',2,'Solanda');\n"
+                        "INSERT INTO mCatClie (id,cod,cat,des,est) VALUES ('1',1,'Mayorista','',1),('2',1,'Mayorista','',1);\n"
+                        "INSERT INTO lsBancos (id,nom,tar,cor,dife,est) VALUES ('1','Banco Pichincha',1,4.02,7.50,1),"
+                        "('1','Produbanco',0,0,0,1),('2','Produbanco',0,0,0,1);\n"
+                        "SET SESSION innodb_lock_wait_timeout=1"_s);
+        QSqlDatabase otra = otraConexion(db, u"otra"_s);
+        const auto foto = [&] {
+            QStringList r;
+            for (const QString& sql : c.vista)
+                r << filas(db, sql);
+            return r;
+        };
+        QStringList antes;
+        bool visto = false;
+        Cajas cajas;
+        alAbrir(c.forma, [&](QWidget* d) {
+            d->activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(d));
+            c.preparar(d);
+            antes = foto();
+            if (c.falla == Matar)
+                ejecutarSql(otra, u"KILL CONNECTION "_s + valor(db, u"SELECT CONNECTION_ID()"_s).toString());
+            else if (c.falla == Bloquear)
+                ejecutarSql(otra, u"START TRANSACTION;\n"_s + c.sql);
+            else
+                ejecutarSql(otra, u"RENAME TABLE %1 TO %1Aparte"_s.arg(c.sql));
+            cajas.limpiar();
+            if (c.pregunta)
+                cajas.responder(QMessageBox::Yes);
+            c.actuar(d);
+            if (c.falla == Bloquear)
+                ejecutarSql(otra, u"ROLLBACK"_s);
+            else if (c.falla == Renombrar)
+                ejecutarSql(otra, u"RENAME TABLE %1Aparte TO %1"_s.arg(c.sql));
+            QVERIFY(!cajas.vistas.isEmpty());
+            QCOMPARE(cajas.vistas.last().titulo, u"Error de base de datos"_s);
+            QCOMPARE(cajas.vistas.last().icono, QMessageBox::Critical);
+            QCOMPARE(cajas.ultima().contains(u"se restableció"_s), c.falla == Matar);
+            QCOMPARE(cajas.ultima().contains(u"1205"_s), c.falla == Bloquear); // the lock wait, not the first statement
+            QVERIFY(d->isVisible());
+            QCOMPARE(foto(), antes); // read on the dialog's own connection: no open transaction left
+            cajas.limpiar();
+            if (c.pregunta)
+                cajas.responder(QMessageBox::Yes);
+            c.actuar(d);
+            if (!c.exito.isEmpty())
+                QCOMPARE(cajas.ultima(), c.exito);
+            for (const Caja& vista : std::as_const(cajas.vistas))
+                QVERIFY2(vista.titulo != u"Error de base de datos"_s, qPrintable(vista.texto));
+            QVERIFY(c.hecho(d));
+            visto = true;
+        });
+        (nomencla.*c.metodo)(u"1"_s, db);
+        QVERIFY(visto);
+        QCOMPARE(foto(), c.despues.isEmpty() ? antes : c.despues);
+    }
+
+    // A table renamed away before the dialog fills its list: the box, and the
+    // next opening lists the rows again.
+    void lista_de_tabla_renombrada()
+    {
+        QSqlDatabase otra = otraConexion(db, u"otra"_s);
+        ejecutarSql(otra, u"RENAME TABLE lsCiudades TO lsCiudadesAparte"_s);
+        Cajas cajas;
+        int vistas = 0;
+        alAbrir(u"frmLsCiudad"_s, [&](QWidget* d) {
+            ++vistas;
+            QCOMPARE(control<Alfarje>(d, u"GR"_s)->RowCount(), 0);
+        });
+        nomencla.Ciudades(u"1"_s, db);
+        QVERIFY(!cajas.vistas.isEmpty());
+        QCOMPARE(cajas.vistas.first().titulo, u"Error de base de datos"_s);
+        ejecutarSql(otra, u"RENAME TABLE lsCiudadesAparte TO lsCiudades"_s);
+        cajas.limpiar();
+        alAbrir(u"frmLsCiudad"_s, [&](QWidget* d) {
+            ++vistas;
+            QCOMPARE(control<Alfarje>(d, u"GR"_s)->RowCount(), 2);
+        });
+        QVERIFY(!nomencla.Ciudades(u"1"_s, db));
+        QVERIFY(cajas.vistas.isEmpty());
+        QCOMPARE(vistas, 2);
     }
 
     void conexion_matada_desde_otra_sesion()
