@@ -9,10 +9,15 @@
 
 #include <nomencla/clsNomencla.h>
 
+#include <QFile>
 #include <QLineEdit>
 #include <QProcess>
 #include <QSqlError>
 #include <QTemporaryDir>
+#include <QThread>
+
+#include <atomic>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 using namespace prueba;
@@ -25,6 +30,54 @@ bool privdb(const QString& orden, const QString& dir)
     QProcess p;
     p.start(QStringLiteral(NOMENCLA_FUENTES "/scripts/privdb"), {orden, dir});
     return p.waitForFinished(120000) && p.exitCode() == 0;
+}
+
+// A server of its own in `dir`, started, with the schema in its database
+// "nf"; the connection `nombre` to it, open (closed on failure).
+QSqlDatabase servidorPropio(const QString& dir, const QString& nombre)
+{
+    QSqlDatabase propia = QSqlDatabase::addDatabase(u"QMYSQL"_s, nombre);
+    if (!privdb(u"start"_s, dir))
+        return propia;
+    propia.setHostName(u"localhost"_s);
+    propia.setUserName(u"root"_s);
+    propia.setConnectOptions(u"UNIX_SOCKET="_s + dir + u"/mysqld.sock"_s);
+    QFile esquema(QStringLiteral(NOMENCLA_FUENTES "/db/schema.sql"));
+    if (!propia.open() || !esquema.open(QIODevice::ReadOnly))
+        return propia;
+    ejecutarSql(propia, u"CREATE DATABASE nf;\nUSE nf"_s);
+    ejecutarSql(propia, QString::fromUtf8(esquema.readAll()));
+    propia.close();
+    propia.setDatabaseName(u"nf"_s);
+    propia.open();
+    return propia;
+}
+
+// Stops the server of `dir` once a transaction there waits for a lock: from
+// another thread, as the one waiting is the dialog's.
+std::thread pararEnEsperaDeBloqueo(const QString& dir, std::atomic<bool>& enEspera)
+{
+    return std::thread([dir, &enEspera] {
+        {
+            QSqlDatabase vigia = QSqlDatabase::addDatabase(u"QMYSQL"_s, u"vigia"_s);
+            vigia.setUserName(u"root"_s);
+            vigia.setDatabaseName(u"nf"_s);
+            vigia.setConnectOptions(u"UNIX_SOCKET="_s + dir + u"/mysqld.sock"_s);
+            if (vigia.open()) {
+                QSqlQuery q(vigia);
+                for (int i = 0; i < 300; ++i) {
+                    if (q.exec(u"SELECT COUNT(*) FROM information_schema.INNODB_TRX WHERE trx_state='LOCK WAIT'"_s)
+                        && q.next() && q.value(0).toInt() > 0) {
+                        enEspera = true;
+                        break;
+                    }
+                    QThread::msleep(50);
+                }
+            }
+        }
+        QSqlDatabase::removeDatabase(u"vigia"_s);
+        privdb(u"stop"_s, dir);
+    });
 }
 
 enum Falla { Matar, Bloquear, Renombrar };
@@ -333,21 +386,67 @@ private Q_SLOTS:
                  (QStringList{u"1|Quito"_s, u"2|Ambato"_s}));
     }
 
+    // Stopped between the two statements of a company's rename (the branches
+    // locked by another clerk, the rename of the company done): neither is
+    // kept; back again, the same save writes both.
+    void servidor_detenido_entre_sentencias()
+    {
+        QTemporaryDir dir(u"/tmp/nf-XXXXXX"_s);
+        QSqlDatabase propia = servidorPropio(dir.path(), u"propia2"_s);
+        QVERIFY(propia.isOpen());
+        ejecutarSql(propia, u"INSERT INTO empresas (cod,id,emp,suc,dir,tel,ciu,prov) VALUES "
+                            "(1,'1','Matriz',1,'d','1','c','p'),(2,'1','Comercial Dos',1,'d','1','c','p');\n"
+                            "INSERT INTO Sucursales (id,emp,nom) VALUES ('1','Comercial Dos','A'),('1','Comercial Dos','B');\n"
+                            "SET SESSION innodb_lock_wait_timeout=30"_s);
+        const QString empresas = u"SELECT cod,emp FROM empresas ORDER BY cod"_s;
+        const QString sucursales = u"SELECT nom,emp FROM Sucursales ORDER BY nom"_s;
+        const QStringList antes = filas(propia, empresas) + filas(propia, sucursales);
+        Cajas cajas;
+        QStringList entonces;
+        alAbrir(u"frmEmpresas"_s, [&](QWidget* d) {
+            auto* gr = control<Alfarje>(d, u"GR"_s);
+            dobleClic(gr, filaCon(gr, u"Comercial Dos"_s));
+            tx(d, 0)->setText(u"Comercial Tres"_s);
+            {
+                QSqlDatabase otra = QSqlDatabase::cloneDatabase(propia, u"otra2"_s);
+                QVERIFY(otra.open());
+                ejecutarSql(otra, u"START TRANSACTION;\nSELECT * FROM Sucursales FOR UPDATE"_s);
+                std::atomic<bool> enEspera = false;
+                std::thread parar = pararEnEsperaDeBloqueo(dir.path(), enEspera);
+                pulsar(d, u"Bt(0)"_s);
+                parar.join();
+                QVERIFY(enEspera); // the company's statement done, the branches' waiting
+            }
+            QSqlDatabase::removeDatabase(u"otra2"_s);
+            QCOMPARE(cajas.vistas.last().titulo, u"Error de base de datos"_s);
+            QVERIFY(cajas.ultima().contains(u"No se pudo restablecer"_s));
+            QVERIFY(d->isVisible());
+            QVERIFY(privdb(u"start"_s, dir.path()));
+            {
+                QSqlDatabase mirar = QSqlDatabase::cloneDatabase(propia, u"mirar"_s);
+                QVERIFY(mirar.open());
+                entonces = filas(mirar, empresas) + filas(mirar, sucursales);
+            }
+            QSqlDatabase::removeDatabase(u"mirar"_s);
+            cajas.limpiar();
+            pulsar(d, u"Bt(0)"_s);
+            QCOMPARE(cajas.ultima(), u"La información se ha guardado con éxito!"_s);
+        });
+        nomencla.Empresas(u"1"_s, propia);
+        QCOMPARE(entonces, antes);
+        QCOMPARE(filas(propia, empresas) + filas(propia, sucursales),
+                 (QStringList{u"1|Matriz"_s, u"2|Comercial Tres"_s, u"A|Comercial Tres"_s, u"B|Comercial Tres"_s}));
+        propia.close();
+        QVERIFY(privdb(u"stop"_s, dir.path()));
+    }
+
     // On a server of its own, stopped while the dialog is open.
     void servidor_detenido_y_de_vuelta()
     {
         QTemporaryDir dir(u"/tmp/nf-XXXXXX"_s);
-        QVERIFY(privdb(u"start"_s, dir.path()));
-        QSqlDatabase propia = QSqlDatabase::addDatabase(u"QMYSQL"_s, u"propia"_s);
-        propia.setHostName(u"localhost"_s);
-        propia.setUserName(u"root"_s);
-        propia.setConnectOptions(u"UNIX_SOCKET="_s + dir.path() + u"/mysqld.sock"_s);
-        QVERIFY(propia.open());
-        ejecutarSql(propia, u"CREATE DATABASE nf;\nUSE nf;\nCREATE TABLE lsCiudades (id VARCHAR(20), ciu VARCHAR(25));\n"
-                            "INSERT INTO lsCiudades VALUES ('1','Quito')"_s);
-        propia.close();
-        propia.setDatabaseName(u"nf"_s);
-        QVERIFY(propia.open());
+        QSqlDatabase propia = servidorPropio(dir.path(), u"propia"_s);
+        QVERIFY(propia.isOpen());
+        ejecutarSql(propia, u"INSERT INTO lsCiudades (id,ciu) VALUES ('1','Quito')"_s);
         Cajas cajas;
         alAbrir(u"frmLsCiudad"_s, [&](QWidget* d) {
             auto* gr = control<Alfarje>(d, u"GR"_s);
@@ -364,9 +463,40 @@ private Q_SLOTS:
             tecla(tx, Qt::Key_Return);
             QCOMPARE(cajas.ultima(), u"La información se ha guardado correctamente!"_s);
             QCOMPARE(gr->RowCount(), 2);
+
+            // A removal: refused while the server is down, done once it is back.
+            QVERIFY(privdb(u"stop"_s, dir.path()));
+            tx->clear();
+            teclear(tx, u"Ten"_s);
+            QCOMPARE(gr->CellText(), u"Tena"_s);
+            cajas.responder(QMessageBox::Yes);
+            pulsar(d, u"Bt(2)"_s);
+            QCOMPARE(cajas.vistas.last().titulo, u"Error de base de datos"_s);
+            QCOMPARE(gr->RowCount(), 2);
+            QVERIFY(privdb(u"start"_s, dir.path()));
+            cajas.limpiar();
+            cajas.responder(QMessageBox::Yes);
+            pulsar(d, u"Bt(2)"_s);
+            QCOMPARE(cajas.ultima(), u"La operación se realizó correctamente!"_s);
+            QCOMPARE(gr->RowCount(), 1);
         });
         QVERIFY(nomencla.Ciudades(u"1"_s, propia));
-        QCOMPARE(filas(propia, u"SELECT ciu FROM lsCiudades ORDER BY ciu"_s), (QStringList{u"Quito"_s, u"Tena"_s}));
+        QCOMPARE(filas(propia, u"SELECT ciu FROM lsCiudades ORDER BY ciu"_s), QStringList{u"Quito"_s});
+
+        // The fill at the opening: the box, an empty usable list, the method
+        // returns; the next opening lists the rows.
+        QVERIFY(privdb(u"stop"_s, dir.path()));
+        cajas.limpiar();
+        int filasVistas = -1;
+        alAbrir(u"frmLsCiudad"_s, [&](QWidget* d) { filasVistas = control<Alfarje>(d, u"GR"_s)->RowCount(); });
+        QVERIFY(!nomencla.Ciudades(u"1"_s, propia));
+        QCOMPARE(filasVistas, 0);
+        QVERIFY(!cajas.vistas.isEmpty());
+        QCOMPARE(cajas.vistas.first().titulo, u"Error de base de datos"_s);
+        QVERIFY(privdb(u"start"_s, dir.path()));
+        alAbrir(u"frmLsCiudad"_s, [&](QWidget* d) { filasVistas = control<Alfarje>(d, u"GR"_s)->RowCount(); });
+        QVERIFY(!nomencla.Ciudades(u"1"_s, propia));
+        QCOMPARE(filasVistas, 1);
         propia.close();
         QVERIFY(privdb(u"stop"_s, dir.path()));
     }

@@ -7,6 +7,7 @@
 
 #include <nomencla/clsNomencla.h>
 
+#include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
@@ -62,16 +63,18 @@ struct Caja {
     QString columna;
     int largo;
     bool varias = false;
+    int minimo = -1; // shorter is refused; -1: the dialog's
 };
 
 struct Dialogo {
     QString forma;
-    bool (clsNomencla::*abrir)(const QString&, QSqlDatabase&);
+    std::function<bool(clsNomencla&, const QString&, QSqlDatabase&)> abrir;
     QString tabla, clave, previas; // previas: rows of both tenants there before
     QString listo;                 // the message of a save
     int minimo;                    // shorter (trimmed) is refused
     QString corto;                 // with this message ("": silently)
     QList<Caja> cajas;
+    std::function<void(QWidget*)> preparar = {}; // before each save, after the boxes
 };
 
 struct Cuenta {
@@ -96,6 +99,8 @@ void probar(QSqlDatabase& db, const Dialogo& dlg)
             for (const Entrada& e : lista) {
                 for (const Caja& otra : dlg.cajas)
                     control<QWidget>(d, otra.nombre)->setProperty("text", u"r%1"_s.arg(++relleno, 2, 10, QChar(u'0')));
+                if (dlg.preparar)
+                    dlg.preparar(d);
                 QWidget* w = control<QWidget>(d, caja.nombre);
                 w->setProperty("text", QString());
                 if (auto* le = qobject_cast<QLineEdit*>(w))
@@ -107,7 +112,7 @@ void probar(QSqlDatabase& db, const Dialogo& dlg)
                 cajas.limpiar();
                 pulsar(d, u"Bt(0)"_s);
                 ++cuenta.entradas;
-                if (esperado.size() < std::max(dlg.minimo, 1)) {
+                if (esperado.size() < (caja.minimo >= 0 ? caja.minimo : std::max(dlg.minimo, 1))) {
                     QCOMPARE(cajas.ultima(), dlg.corto);
                     QCOMPARE(valor(db, cuantas).toInt(), n);
                     continue;
@@ -124,7 +129,7 @@ void probar(QSqlDatabase& db, const Dialogo& dlg)
         }
     });
     clsNomencla nomencla;
-    QVERIFY((nomencla.*dlg.abrir)(u"1"_s, db));
+    QVERIFY(dlg.abrir(nomencla, u"1"_s, db));
     QCOMPARE(filas(db, antes).mid(0, viejas.size()), viejas);
     cuenta.filas += int(viejas.size());
     ++cuenta.dialogos;
@@ -135,6 +140,7 @@ const QList<Dialogo>& listas()
     const QString bien = u"La información se ha guardado correctamente!"_s;
     const QString exito = u"La información se ha guardado con éxito!"_s;
     const QString ajena = u"('2','O''Brien'),('1','Zzyzx')"_s;
+    const QString incompleta = u"Debe ingresar toda la información antes de guardar!"_s;
     static const QList<Dialogo> lista{
         {u"frmLsDepartam"_s, &clsNomencla::Departamentos, u"lsDepartam"_s, u"pk"_s,
          u"INSERT INTO lsDepartam (id,depa) VALUES "_s + ajena, bien, 1,
@@ -168,6 +174,29 @@ const QList<Dialogo>& listas()
          u"INSERT INTO lsPaises (id,nom) VALUES "_s + ajena, exito, 6, {}, {{u"Text1"_s, u"nom"_s, 60}}},
         {u"frmLsBancos"_s, &clsNomencla::Bancos, u"lsBancos"_s, u"cod"_s,
          u"INSERT INTO lsBancos (id,nom) VALUES "_s + ajena, exito, 6, {}, {{u"Text1"_s, u"nom"_s, 60}}},
+        {u"frmEmpresas"_s, &clsNomencla::Empresas, u"empresas"_s, u"cod"_s,
+         u"INSERT INTO empresas (id,emp,dir,tel,ciu,prov,nart) VALUES ('2','O''Brien','d','1','c','p','n'),"
+         "('1','Zzyzx','d','1','c','p','n')"_s,
+         exito, 1, incompleta,
+         {{u"Tx(0)"_s, u"emp"_s, 120}, {u"Tx(2)"_s, u"dir"_s, 120}, {u"Tx(3)"_s, u"tel"_s, 12},
+          {u"Tx(4)"_s, u"ciu"_s, 25}, {u"Tx(5)"_s, u"prov"_s, 50}, {u"Tx(6)"_s, u"nart"_s, 25, false, 0}}},
+        {u"frmSucursales"_s, &clsNomencla::Sucursales, u"Sucursales"_s, u"cod"_s,
+         u"INSERT INTO empresas (id,emp,est) VALUES ('1','Andina',1);\n"
+         "INSERT INTO Sucursales (id,emp,ciu,nom,dir,tel) VALUES ('2','Andina','Quito','O''Brien','d','1'),"
+         "('1','Andina','Quito','Zzyzx','d','1')"_s,
+         exito, 1, incompleta,
+         {{u"Tx(0)"_s, u"ciu"_s, 25}, {u"Tx(1)"_s, u"nom"_s, 60}, {u"Tx(2)"_s, u"dir"_s, 100},
+          {u"Tx(3)"_s, u"tel"_s, 10, false, 0}},
+         [](QWidget* d) { control<QComboBox>(d, u"Cmb"_s)->setCurrentIndex(0); }},
+        {u"frmSubProveedor"_s,
+         [](clsNomencla& n, const QString& id, QSqlDatabase& db) { return n.SubProveedores(id, 7, db); },
+         u"SubProveedor"_s, u"cod"_s,
+         u"INSERT INTO mProveedor (cod,nom,ced) VALUES (7,'Distribuidora','1790000000001');\n"
+         "INSERT INTO SubProveedor (id,prov,cin,ruc,raz,dir) VALUES ('2',7,'1','O''Brien','r','d'),"
+         "('1',7,'1','Zzyzx','r','d')"_s,
+         exito, 1, incompleta,
+         {{u"Tx(0)"_s, u"cin"_s, 13}, {u"Tx(1)"_s, u"ruc"_s, 13}, {u"Tx(2)"_s, u"raz"_s, 100},
+          {u"Tx(3)"_s, u"dir"_s, 100, false, 0}}},
     };
     return lista;
 }
@@ -230,6 +259,67 @@ private Q_SLOTS:
         QFETCH(int, indice);
         QSqlDatabase db = baseNueva(u"t_hostiles"_s);
         probar(db, listas()[indice]);
+    }
+
+    // A place of a stored zone is written at Enter in its ordinal; a rename
+    // carries the same text to this tenant's customers of the place.
+    void en_los_lugares_de_una_zona()
+    {
+        QSqlDatabase db = baseNueva(u"t_hostiles"_s);
+        ejecutarSql(db, u"INSERT INTO mZonaClie (id,cod,zon) VALUES ('1',1,'Norte'),('2',1,'Norte');\n"
+                        "INSERT INTO mZonaLugar (id,zon,lug) VALUES ('2',1,'O''Brien'),('1',1,'Carcelén');\n"
+                        "INSERT INTO mCliente (id,nom,zon,lug) VALUES ('1','A',1,'Carcelén'),('2','B',1,'Carcelén')"_s);
+        const QString ajenas = u"SELECT * FROM %1 WHERE id='2' ORDER BY cod"_s;
+        const QStringList lugaresAjenos = filas(db, ajenas.arg(u"mZonaLugar"_s));
+        const QStringList clientesAjenos = filas(db, ajenas.arg(u"mCliente"_s));
+        const QString renombre = u"'); UPDATE mCliente SET lug='x'; --"_s;
+        Cajas cajas;
+        alAbrir(u"frmLsZona"_s, [&](QWidget* d) {
+            d->activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(d));
+            auto* gr = control<Alfarje>(d, u"GR"_s);
+            QTest::mouseDClick(gr->viewport(), Qt::LeftButton, {}, gr->visualRect(gr->model()->index(0, 0)).center());
+            auto* nombre = control<QLineEdit>(d, u"Tx(2)"_s);
+            auto* ordinal = control<QLineEdit>(d, u"Tx(3)"_s);
+            for (const Entrada& e : entradas()) {
+                nombre->clear();
+                nombre->insert(e.pegado);
+                cajas.limpiar();
+                tecla(ordinal, Qt::Key_Return);
+                ++cuenta.entradas;
+                const QString esperado = guardable(e.pegado, 50, false);
+                if (esperado.size() <= 1) {
+                    QCOMPARE(cajas.ultima(), u"Debe especificar el nombre del lugar!"_s);
+                    continue;
+                }
+                QCOMPARE(cajas.ultima(), u"El lugar asociado a la zona se ha registrado en la base de datos!"_s);
+                QCOMPARE(valor(db, u"SELECT lug FROM mZonaLugar WHERE id='1' ORDER BY cod DESC LIMIT 1"_s).toString(),
+                         esperado);
+                ++cuenta.filas;
+            }
+            // The rename, picked in the places as the user does.
+            d->activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(d));
+            auto* gr2 = control<Alfarje>(d, u"GR2"_s);
+            const int fila = gr2->FindRow(u"Carcelén"_s, 0, 0, false);
+            QVERIFY(fila >= 0);
+            QTest::mouseClick(gr2->viewport(), Qt::LeftButton, {},
+                              gr2->visualRect(gr2->model()->index(fila, 0)).center());
+            QCOMPARE(nombre->text(), u"Carcelén"_s);
+            nombre->selectAll(); // pasted over the name: emptying the box would drop the pick
+            nombre->insert(renombre);
+            tecla(ordinal, Qt::Key_Return);
+            QCOMPARE(cajas.ultima(), u"La información se ha guardado con éxito en la base de datos!"_s);
+        });
+        clsNomencla nomencla;
+        QVERIFY(nomencla.ZonaClientes(u"1"_s, db));
+        QCOMPARE(filas(db, u"SELECT lug FROM mCliente WHERE id='1'"_s), QStringList{renombre});
+        QCOMPARE(valor(db, u"SELECT COUNT(*) FROM mZonaLugar WHERE id='1' AND lug=?"_s, {renombre}).toInt(), 1);
+        QCOMPARE(filas(db, ajenas.arg(u"mZonaLugar"_s)), lugaresAjenos);
+        QCOMPARE(filas(db, ajenas.arg(u"mCliente"_s)), clientesAjenos);
+        cuenta.filas += int(lugaresAjenos.size() + clientesAjenos.size()) + 2;
+        cuenta.cajas += 1;
+        ++cuenta.dialogos;
     }
 
     // The lot and its sanitary registration come back exactly.
