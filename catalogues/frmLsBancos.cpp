@@ -59,8 +59,9 @@ QWidget* frmLsBancos::disenarCampos(QGridLayout* campos, int fila, QWidget* ante
     for (int i = 0; i < 2; ++i) {
         auto* etiqueta = new Etiqueta(textos[i], marco);
         etiqueta->setObjectName(u"Label1(%1)"_s.arg(2 + i));
-        Nm[i] = new CajaTexto(marco);
+        Nm[i] = new CajaTexto(marco, 8); // 99999.99 at most, as typed
         Nm[i]->setObjectName(u"Nm(%1)"_s.arg(i));
+        Nm[i]->setSoloNumero(2);
         Nm[i]->setAlignment(Qt::AlignCenter);
         Nm[i]->setMaximumWidth(90);
         etiqueta->setBuddy(Nm[i]);

@@ -71,6 +71,7 @@ void frmLsTipoCli::DisenarExtra(QWidget* lienzo, QGridLayout* campos, QBoxLayout
         etiqueta->setObjectName(u"Label1(%1)"_s.arg(indice + 1));
         auto* caja = new CajaTexto(lienzo, 6);
         caja->setObjectName(u"Tx(%1)"_s.arg(indice));
+        caja->setSoloNumero(cifras[i].decimales);
         caja->setAlignment(Qt::AlignCenter);
         caja->setFixedWidth(caja->fontMetrics().horizontalAdvance(u"0"_s) * 10 + 12);
         etiqueta->setBuddy(caja);

@@ -101,6 +101,7 @@ void frmLsZona::DisenarExtra(QWidget* lienzo, QGridLayout*, QBoxLayout* cuerpo)
     etiquetaOrdinal->setObjectName(u"Label1(4)"_s);
     Tx3_ = new CajaTexto(lienzo, 3);
     Tx3_->setObjectName(u"Tx(3)"_s);
+    Tx3_->setSoloNumero(0);
     Tx3_->setAlignment(Qt::AlignCenter);
     Tx3_->setText(u"1"_s);
     Tx3_->setFixedWidth(Tx3_->fontMetrics().horizontalAdvance(u"0"_s) * 6 + 12);

@@ -3,7 +3,9 @@
 #include <QFileDialog>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QRegularExpression>
 #include <QTextCursor>
+#include <QToolTip>
 #include <QValidator>
 
 using namespace Qt::StringLiterals;
@@ -68,11 +70,27 @@ static QString cortar(const QString& texto, qsizetype largo)
 class SinControles : public QValidator {
 public:
     using QValidator::QValidator;
+    // Numbers only: a text that isn't one (a paste, mostly; typed keys are
+    // filtered before) is refused and a tip under the box says why.
+    void soloNumero(int decimales, bool negativo)
+    {
+        numero_ = QRegularExpression(u"^\\s*%1\\d*%2\\s*$"_s.arg(negativo ? u"-?"_s : QString(),
+                                                                decimales > 0 ? u"(\\.\\d*)?"_s : QString()));
+    }
     State validate(QString& texto, int& posicion) const override
     {
         for (QChar& c : texto)
             if (c.category() == QChar::Other_Control)
                 c = u' ';
+        if (numero_.isValid() && !numero_.pattern().isEmpty()) {
+            texto.replace(u',', u'.'); // the decimal mark as typed
+            if (!numero_.match(texto).hasMatch()) {
+                if (auto* caja = qobject_cast<QWidget*>(parent()))
+                    QToolTip::showText(caja->mapToGlobal(QPoint(0, caja->height())),
+                                       u"Este campo solo admite números"_s, caja);
+                return Invalid;
+            }
+        }
         for (qsizetype i = 0; i < texto.size(); ++i) {
             const bool par = texto[i].isHighSurrogate() ? i + 1 < texto.size() && texto[i + 1].isLowSurrogate()
                                                        : !texto[i].isLowSurrogate();
@@ -85,6 +103,9 @@ public:
         }
         return Acceptable;
     }
+
+private:
+    QRegularExpression numero_;
 };
 
 CajaTexto::CajaTexto(QWidget* parent, int maxLength) : QLineEdit(parent)
@@ -92,6 +113,12 @@ CajaTexto::CajaTexto(QWidget* parent, int maxLength) : QLineEdit(parent)
     setMaxLength(maxLength);
     setValidator(new SinControles(this));
     connect(this, &QLineEdit::textChanged, this, [this] { Q_EMIT Change(); });
+}
+
+void CajaTexto::setSoloNumero(int decimales, bool negativo)
+{
+    if (auto* v = dynamic_cast<SinControles*>(const_cast<QValidator*>(validator())))
+        v->soloNumero(decimales, negativo);
 }
 
 void CajaTexto::keyPressEvent(QKeyEvent* evento)

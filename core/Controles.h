@@ -33,6 +33,9 @@ public:
     QString Text() const { return text(); }
     void setTag(const QString& tag) { tag_ = tag; }
     QString Tag() const { return tag_; }
+    // A box for a number: text that isn't one is not taken, pasted or typed
+    // (',' is read as the decimal point). Values set by the program are not checked.
+    void setSoloNumero(int decimales, bool negativo = false);
 
 Q_SIGNALS:
     void Change();

@@ -96,6 +96,7 @@ void frmLotes::Disenar(QWidget* lienzo)
     connect(aceptar, &QPushButton::clicked, this, [this] { Bt_Click(1); });
     connect(paises, &QPushButton::clicked, this, [this] { Bt_Click(2); });
     // The quantity is a whole number: no decimal mark, no sign.
+    Text1[2]->setSoloNumero(0);
     connect(Text1[2], &CajaTexto::KeyPress, this, [this](int& KeyAscii) {
         KeyAscii = M().servicios().FiltrarTecla(Text1[2], KeyAscii, 0, 0, 100, 0);
     });

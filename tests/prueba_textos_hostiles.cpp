@@ -9,6 +9,7 @@
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QPlainTextEdit>
 
 using namespace Qt::StringLiterals;
@@ -160,6 +161,14 @@ const QList<Dialogo>& listas()
          u"INSERT INTO SRI_Documentos (id,cin,des) VALUES ('2','01','O''Brien'),('1','Zzy','z')"_s, exito, 2,
          u"Debe especificar el nombre del documento autorizado por el SRI!"_s,
          {{u"Tx(0)"_s, u"cin"_s, 3}, {u"Tx(1)"_s, u"des"_s, 30}}},
+        {u"frmLsSustentos"_s, &clsNomencla::SustentoTributario, u"SRI_Sustentos"_s, u"cod"_s,
+         u"INSERT INTO SRI_Sustentos (id,cin,des) VALUES ('2','01','O''Brien'),('1','Zzy','z')"_s, exito, 2,
+         u"Debe especificar el nombre del sustento tributario autorizado por el SRI!"_s,
+         {{u"Tx(0)"_s, u"cin"_s, 3}, {u"Tx(1)"_s, u"des"_s, 150}}},
+        {u"frmLsCargos"_s, &clsNomencla::Cargos, u"Cargos"_s, u"cod"_s,
+         u"INSERT INTO Cargos (id,car,des) VALUES ('2','O''Brien','x'),('1','Zzyzx','z')"_s, exito, 2,
+         u"Debe especificar el nombre del cargo!"_s,
+         {{u"Tx(0)"_s, u"car"_s, 50}, {u"Tx(1)"_s, u"des"_s, 150, true}}},
         {u"frmLsTipoCli"_s, &clsNomencla::TipoClientes, u"mTipClie"_s, u"pk"_s,
          u"INSERT INTO mTipClie (id,cod,tip,des) VALUES ('2',1,'O''Brien','x'),('1',1,'Zzyzx','z')"_s, exito, 2,
          u"Debe especificar el nombre del tipo de cliente!"_s,
@@ -170,6 +179,8 @@ const QList<Dialogo>& listas()
          {{u"Tx(0)"_s, u"zon"_s, 50}, {u"Tx(1)"_s, u"des"_s, 150, true}}},
         {u"frmLsContratos"_s, &clsNomencla::Contratos, u"lscontratos"_s, u"cod"_s,
          u"INSERT INTO lscontratos (id,con) VALUES "_s + ajena, exito, 2, {}, {{u"Text1"_s, u"con"_s, 60}}},
+        {u"frmLsCuentas"_s, &clsNomencla::Cuentas, u"lsCuentas"_s, u"cod"_s,
+         u"INSERT INTO lsCuentas (id,cta) VALUES "_s + ajena, exito, 2, {}, {{u"Text1"_s, u"cta"_s, 60}}},
         {u"frmLsPaises"_s, &clsNomencla::Paises, u"lsPaises"_s, u"cod"_s,
          u"INSERT INTO lsPaises (id,nom) VALUES "_s + ajena, exito, 6, {}, {{u"Text1"_s, u"nom"_s, 60}}},
         {u"frmLsBancos"_s, &clsNomencla::Bancos, u"lsBancos"_s, u"cod"_s,
@@ -245,6 +256,10 @@ private Q_SLOTS:
         QStringList guardado = filas(db, u"SELECT ciu FROM lsCiudades WHERE id='1' ORDER BY pk"_s);
         QCOMPARE(guardado, esperado);
         QCOMPARE(filas(db, u"SELECT * FROM lsCiudades WHERE id='2' ORDER BY pk"_s), otroAntes);
+        cuenta.entradas += int(entradas().size());
+        cuenta.filas += int(guardado.size() + otroAntes.size());
+        ++cuenta.cajas;
+        ++cuenta.dialogos;
     }
 
     void en_cada_caja_de_cada_lista_data()
@@ -320,6 +335,57 @@ private Q_SLOTS:
         cuenta.filas += int(lugaresAjenos.size() + clientesAjenos.size()) + 2;
         cuenta.cajas += 1;
         ++cuenta.dialogos;
+    }
+
+    // Boxes for numbers don't take text that isn't one, pasted or not; a
+    // number pasted with a comma is read with the decimal point.
+    void en_las_cajas_de_numeros()
+    {
+        QSqlDatabase db = baseNueva(u"t_hostiles"_s);
+        ejecutarSql(db, u"INSERT INTO lsPaises (id,nom) VALUES ('1','Ecuador')"_s);
+        const auto rechaza = [](QWidget* d, const QString& nombre) {
+            auto* caja = control<QLineEdit>(d, nombre);
+            for (const Entrada& e : entradas()) {
+                caja->setText(u"7"_s);
+                caja->selectAll();
+                caja->insert(e.pegado);
+                // The box cuts at its length first: what is left may be a number.
+                const QString cortado = e.pegado.left(caja->maxLength());
+                const bool numero = QRegularExpression(u"^\\s*\\d*\\s*$"_s).match(cortado).hasMatch();
+                QCOMPARE(caja->text(), numero ? cortado : u"7"_s);
+                ++cuenta.entradas;
+            }
+            ++cuenta.cajas;
+        };
+        Cajas cajas;
+        clsNomencla nomencla;
+        alAbrir(u"frmLsTipoCli"_s, [&](QWidget* d) {
+            for (const QString& nombre : {u"Tx(2)"_s, u"Tx(3)"_s, u"Tx(4)"_s})
+                rechaza(d, nombre);
+            control<QLineEdit>(d, u"Tx(0)"_s)->setText(u"Mayorista"_s);
+            control<QLineEdit>(d, u"Tx(4)"_s)->selectAll();
+            control<QLineEdit>(d, u"Tx(4)"_s)->insert(u" 12,5 "_s);
+            QCOMPARE(control<QLineEdit>(d, u"Tx(4)"_s)->text(), u" 12.5 "_s);
+            control<QLineEdit>(d, u"Tx(3)"_s)->selectAll();
+            control<QLineEdit>(d, u"Tx(3)"_s)->insert(u"12,5"_s); // days: no decimals
+            QCOMPARE(control<QLineEdit>(d, u"Tx(3)"_s)->text(), u"7"_s);
+            pulsar(d, u"Bt(0)"_s);
+            QCOMPARE(cajas.ultima(), u"La información se ha guardado con éxito!"_s);
+        });
+        QVERIFY(nomencla.TipoClientes(u"1"_s, db));
+        QCOMPARE(filas(db, u"SELECT tip,cre,pla,descu FROM mTipClie"_s), QStringList{u"Mayorista|7|7|12.5"_s});
+        alAbrir(u"frmLsBancos"_s, [&](QWidget* d) {
+            rechaza(d, u"Nm(0)"_s);
+            rechaza(d, u"Nm(1)"_s);
+        });
+        nomencla.Bancos(u"1"_s, db);
+        alAbrir(u"frmLsZona"_s, [&](QWidget* d) { rechaza(d, u"Tx(3)"_s); });
+        nomencla.ZonaClientes(u"1"_s, db);
+        alAbrir(u"frmLotes"_s, [&](QWidget* d) { rechaza(d, u"Text1(2)"_s); });
+        InfoLotes r;
+        nomencla.AgregarLoteCaducidad(u"1"_s, db, r);
+        cuenta.dialogos += 4;
+        ++cuenta.filas;
     }
 
     // The lot and its sanitary registration come back exactly.
