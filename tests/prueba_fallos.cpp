@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QSqlError>
 #include <QTemporaryDir>
 #include <QThread>
@@ -53,40 +54,55 @@ QSqlDatabase servidorPropio(const QString& dir, const QString& nombre)
     return propia;
 }
 
-// Stops the server of `dir` once a transaction there waits for a lock: from
-// another thread, as the one waiting is the dialog's.
-std::thread pararEnEsperaDeBloqueo(const QString& dir, std::atomic<bool>& enEspera)
+// Once a statement on `tabla` has waited for a second on the
+// server behind `socket`, runs `accion` with the waiting session's id: from
+// another thread, as the one waiting is the dialog's. `enEspera` tells
+// whether the wait was seen.
+std::thread alEsperarBloqueo(const QString& socket, const QString& base, const QString& tabla,
+                             std::atomic<bool>& enEspera, std::function<void(QSqlQuery&, qint64)> accion)
 {
-    return std::thread([dir, &enEspera] {
+    return std::thread([socket, base, tabla, &enEspera, accion = std::move(accion)] {
         {
             QSqlDatabase vigia = QSqlDatabase::addDatabase(u"QMYSQL"_s, u"vigia"_s);
             vigia.setUserName(u"root"_s);
-            vigia.setDatabaseName(u"nf"_s);
-            vigia.setConnectOptions(u"UNIX_SOCKET="_s + dir + u"/mysqld.sock"_s);
+            vigia.setDatabaseName(base);
+            vigia.setConnectOptions(u"UNIX_SOCKET="_s + socket);
+            qint64 sesion = -1;
+            // SHOW PROCESSLIST rather than its information_schema table: the
+            // server's temporary tables for the latter, polled while other
+            // tests read information_schema, have brought the server down.
             if (vigia.open()) {
                 QSqlQuery q(vigia);
-                for (int i = 0; i < 300; ++i) {
-                    if (q.exec(u"SELECT COUNT(*) FROM information_schema.INNODB_TRX WHERE trx_state='LOCK WAIT'"_s)
-                        && q.next() && q.value(0).toInt() > 0) {
-                        enEspera = true;
-                        break;
+                for (int i = 0; i < 150 && sesion < 0; ++i) {
+                    if (q.exec(u"SHOW FULL PROCESSLIST"_s)) {
+                        while (q.next())
+                            if (q.value(u"db"_s).toString() == base && q.value(u"Time"_s).toInt() >= 1
+                                && q.value(u"Info"_s).toString().contains(tabla, Qt::CaseInsensitive)
+                                && !q.value(u"Info"_s).toString().startsWith(u"SHOW"_s))
+                                sesion = q.value(u"Id"_s).toLongLong();
                     }
-                    QThread::msleep(50);
+                    if (sesion < 0)
+                        QThread::msleep(100);
                 }
             }
+            enEspera = sesion >= 0;
+            QSqlQuery q(vigia);
+            accion(q, sesion);
+            vigia.close();
         }
         QSqlDatabase::removeDatabase(u"vigia"_s);
-        privdb(u"stop"_s, dir);
     });
 }
 
-enum Falla { Matar, Bloquear, Renombrar };
+// Matar: before the operation; MatarEnEspera: while its second statement
+// waits for rows that `sql` locks, the first one done.
+enum Falla { Matar, MatarEnEspera, Bloquear, Renombrar };
 
 using Pasos = std::function<void(QWidget*)>;
 using Metodo = bool (clsNomencla::*)(const QString&, QSqlDatabase&);
 
 struct Caso {
-    const char* nombre;
+    QByteArray nombre;
     QString forma;
     Metodo metodo;
     Falla falla;
@@ -150,7 +166,8 @@ QStringList cambiar(QStringList filas, const QList<std::pair<int, QString>>& cam
 
 const QList<Caso>& casos()
 {
-    static const QList<Caso> lista{
+    static const QList<Caso> lista = [] {
+    QList<Caso> l{
         {"empresa: rellenar, conexion matada", u"frmEmpresas"_s, &clsNomencla::Empresas, Matar, {},
          [](QWidget*) {}, elegir(u"Comercial Dos"_s), false, empresa, {}, {},
          [](QWidget* d) { return tx(d, 0)->text() == u"Comercial Dos"_s; }},
@@ -209,6 +226,17 @@ const QList<Caso>& casos()
          elegir(u"Produbanco"_s), boton(1), true, {u"SELECT id,nom,est FROM lsBancos ORDER BY cod"_s}, {},
          {u"1|Banco Pichincha|1"_s, u"1|Produbanco|0"_s, u"2|Produbanco|1"_s}},
     };
+    // Each multi-statement save again, its connection killed while the second statement waits.
+    for (qsizetype i = 0, n = l.size(); i < n; ++i) {
+        if (l[i].falla != Bloquear)
+            continue;
+        Caso otro = l[i];
+        otro.nombre += " (conexion matada en la espera)";
+        otro.falla = MatarEnEspera;
+        l.append(otro);
+    }
+    return l;
+    }();
     return lista;
 }
 
@@ -230,7 +258,7 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("i");
         for (int i = 0; i < casos().size(); ++i)
-            QTest::newRow(casos()[i].nombre) << i;
+            QTest::newRow(casos()[i].nombre.constData()) << i;
     }
 
     // The fault, the critical box, the rows as before; the fault gone, the same
@@ -272,24 +300,39 @@ private Q_SLOTS:
             QVERIFY(QTest::qWaitForWindowActive(d));
             c.preparar(d);
             antes = foto();
-            if (c.falla == Matar)
+            std::atomic<bool> enEspera = false;
+            std::thread matar;
+            if (c.falla == Matar) {
                 ejecutarSql(otra, u"KILL CONNECTION "_s + valor(db, u"SELECT CONNECTION_ID()"_s).toString());
-            else if (c.falla == Bloquear)
+            } else if (c.falla == Bloquear) {
                 ejecutarSql(otra, u"START TRANSACTION;\n"_s + c.sql);
-            else
+            } else if (c.falla == MatarEnEspera) {
+                ejecutarSql(db, u"SET SESSION innodb_lock_wait_timeout=30"_s);
+                ejecutarSql(otra, u"START TRANSACTION;\n"_s + c.sql);
+                const QString tabla = QRegularExpression(u"FROM (\\w+)"_s).match(c.sql).captured(1);
+                matar = alEsperarBloqueo(qEnvironmentVariable("NOMENCLA_TEST_SOCKET", QStringLiteral(NOMENCLA_SOCKET)),
+                                         db.databaseName(), tabla, enEspera, [](QSqlQuery& q, qint64 sesion) {
+                                             if (sesion >= 0)
+                                                 q.exec(u"KILL CONNECTION "_s + QString::number(sesion));
+                                         });
+            } else
                 ejecutarSql(otra, u"RENAME TABLE %1 TO %1Aparte"_s.arg(c.sql));
             cajas.limpiar();
             if (c.pregunta)
                 cajas.responder(QMessageBox::Yes);
             c.actuar(d);
-            if (c.falla == Bloquear)
+            if (matar.joinable()) {
+                matar.join();
+                QVERIFY(enEspera); // killed between the statements
+            }
+            if (c.falla == Bloquear || c.falla == MatarEnEspera)
                 ejecutarSql(otra, u"ROLLBACK"_s);
             else if (c.falla == Renombrar)
                 ejecutarSql(otra, u"RENAME TABLE %1Aparte TO %1"_s.arg(c.sql));
             QVERIFY(!cajas.vistas.isEmpty());
             QCOMPARE(cajas.vistas.last().titulo, u"Error de base de datos"_s);
             QCOMPARE(cajas.vistas.last().icono, QMessageBox::Critical);
-            QCOMPARE(cajas.ultima().contains(u"se restableció"_s), c.falla == Matar);
+            QCOMPARE(cajas.ultima().contains(u"se restableció"_s), c.falla == Matar || c.falla == MatarEnEspera);
             QCOMPARE(cajas.ultima().contains(u"1205"_s), c.falla == Bloquear); // the lock wait, not the first statement
             QVERIFY(d->isVisible());
             QCOMPARE(foto(), antes); // read on the dialog's own connection: no open transaction left
@@ -412,7 +455,8 @@ private Q_SLOTS:
                 QVERIFY(otra.open());
                 ejecutarSql(otra, u"START TRANSACTION;\nSELECT * FROM Sucursales FOR UPDATE"_s);
                 std::atomic<bool> enEspera = false;
-                std::thread parar = pararEnEsperaDeBloqueo(dir.path(), enEspera);
+                std::thread parar = alEsperarBloqueo(dir.path() + u"/mysqld.sock"_s, u"nf"_s, u"sucursales"_s, enEspera,
+                                                     [&dir](QSqlQuery&, qint64) { privdb(u"stop"_s, dir.path()); });
                 pulsar(d, u"Bt(0)"_s);
                 parar.join();
                 QVERIFY(enEspera); // the company's statement done, the branches' waiting
