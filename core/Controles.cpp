@@ -82,7 +82,7 @@ public:
         for (QChar& c : texto)
             if (c.category() == QChar::Other_Control)
                 c = u' ';
-        if (numero_.isValid() && !numero_.pattern().isEmpty()) {
+        if (!numero_.pattern().isEmpty()) {
             texto.replace(u',', u'.'); // the decimal mark as typed
             if (!numero_.match(texto).hasMatch()) {
                 if (auto* caja = qobject_cast<QWidget*>(parent()))
@@ -111,14 +111,14 @@ private:
 CajaTexto::CajaTexto(QWidget* parent, int maxLength) : QLineEdit(parent)
 {
     setMaxLength(maxLength);
-    setValidator(new SinControles(this));
+    validador_ = new SinControles(this);
+    setValidator(validador_);
     connect(this, &QLineEdit::textChanged, this, [this] { Q_EMIT Change(); });
 }
 
 void CajaTexto::setSoloNumero(int decimales, bool negativo)
 {
-    if (auto* v = dynamic_cast<SinControles*>(const_cast<QValidator*>(validator())))
-        v->soloNumero(decimales, negativo);
+    validador_->soloNumero(decimales, negativo);
 }
 
 void CajaTexto::keyPressEvent(QKeyEvent* evento)

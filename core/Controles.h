@@ -14,6 +14,8 @@ class QKeyEvent;
 
 namespace nomencla {
 
+class SinControles;
+
 constexpr int vbKeyReturn = 13;
 constexpr int vbKeyEscape = 27;
 constexpr int vbKeyBack = 8;
@@ -48,6 +50,7 @@ protected:
 
 private:
     QString tag_;
+    SinControles* validador_ = nullptr;
 };
 
 // A text box of several lines (descriptions), limited to MaxLength characters
