@@ -3,7 +3,6 @@
 
 #include "core/Module1.h"
 #include "catalogues/frmLsCiudad.h"
-#include "core/clsServicios.h"
 
 #include <nomencla/clsNomencla.h>
 
@@ -36,7 +35,6 @@ private Q_SLOTS:
             QVERIFY(M().Servicios);
             alAbrir(u"frmLsCiudad"_s, [](QWidget*) {});
             n.Ciudades(u"1"_s, db);
-            QVERIFY(M().Grillas || M().Servicios);
         }
         QVERIFY(!M().Servicios);
         QVERIFY(!M().Grillas);
@@ -45,17 +43,6 @@ private Q_SLOTS:
         alAbrir(u"frmLsDepartam"_s, [](QWidget*) {});
         QVERIFY(!clsNomencla::aplicacion().Departamentos(u"1"_s, db));
         QVERIFY(M().Grillas);
-    }
-
-    void tipos_publicos()
-    {
-        static_assert(sizeof(tipoLoteLS) == 4 && sizeof(TipoDocImpresion) == 4);
-        QCOMPARE(int(lsLotesEnRevisión), 3);
-        QCOMPARE(int(lsLotesValidos), 11);
-        QCOMPARE(int(impRecibo), 8);
-        InfoLotes l;
-        QVERIFY(l.Lote.isEmpty());
-        QCOMPARE(l.Cantidad, 0);
     }
 };
 

@@ -5,6 +5,7 @@
 
 #include <nomencla/clsNomencla.h>
 
+#include <QAbstractButton>
 #include <QDateEdit>
 #include <QFile>
 #include <functional>
@@ -15,37 +16,52 @@ using nomencla::Alfarje;
 
 namespace {
 
-const QString guardadoC = u"La información se ha guardado correctamente!"_s;
-const QString guardadoE = u"La información se ha guardado con éxito!"_s;
-const QString hecho = u"La operación se realizó correctamente!"_s;
-const QString pregunta = u"Está seguro"_s; // the named lists say nothing after a removal
 int operaciones = 0;
 
-// The last box tells the operation was done.
-void listo(Cajas& c, const QString& inicio)
+// A dialog's steps, separated by "; ". "Tx(0)=text" fills a box (a date box
+// with "MM-dd" of this year). "GR=text" double-clicks the row of the grid with
+// the text in column 0 ("GR/1=text": in column 1); the places, GR2, are
+// clicked. "Bt(0)" presses a button and expects a new box telling the save;
+// "-Bt(1)" confirms a removal and expects it done.
+void seguir(QWidget* d, Cajas& c, const char* pasos)
 {
-    QVERIFY2(c.ultima().startsWith(inicio), qPrintable(c.ultima()));
-    ++operaciones;
+    for (const QString& paso : QString::fromUtf8(pasos).split(u"; "_s)) {
+        const bool quitar = paso.startsWith(u'-');
+        const QString nombre = paso.section(u'=', 0, 0).mid(quitar ? 1 : 0);
+        const QString texto = paso.section(u'=', 1);
+        auto* w = control<QWidget>(d, nombre.section(u'/', 0, 0));
+        QVERIFY(w);
+        if (auto* gr = qobject_cast<Alfarje*>(w)) {
+            const int fila = filaCon(gr, texto, nombre.section(u'/', 1).toInt());
+            if (nombre.startsWith(u"GR2"_s)) { // the places: a click, with the focus
+                d->activateWindow();
+                QVERIFY(QTest::qWaitForWindowActive(d) && fila >= 0);
+                const QPoint punto = gr->visualRect(gr->model()->index(fila, 0)).center();
+                QTest::mouseClick(gr->viewport(), Qt::LeftButton, {}, punto);
+            } else {
+                dobleClic(gr, fila);
+            }
+        } else if (qobject_cast<QAbstractButton*>(w)) {
+            if (quitar)
+                c.responder(QMessageBox::Yes);
+            const qsizetype vistas = c.vistas.size();
+            pulsar(d, nombre);
+            const QString caja = c.vistas.size() > vistas ? c.ultima() : QString();
+            // The named lists say nothing after the question.
+            QVERIFY2(quitar ? caja == u"La operación se realizó correctamente!"_s || caja.startsWith(u"Está seguro"_s)
+                            : caja.startsWith(u"La información se ha guardado"_s),
+                     qPrintable(paso + u": "_s + caja));
+            ++operaciones;
+        } else if (auto* fecha = qobject_cast<QDateEdit*>(w)) {
+            fecha->setDate(QDate::fromString(u"%1-"_s.arg(QDate::currentDate().year()) + texto, Qt::ISODate));
+        } else {
+            w->setProperty("text", texto);
+        }
+        if (QTest::currentTestFailed())
+            return;
+    }
 }
 
-void elegir(QWidget* d, const QString& texto, int columna = 0)
-{
-    auto* gr = control<Alfarje>(d, u"GR"_s);
-    dobleClic(gr, filaCon(gr, texto, columna));
-}
-
-void quitar(QWidget* d, Cajas& c, const QString& boton)
-{
-    c.responder(QMessageBox::Yes);
-    pulsar(d, boton);
-}
-
-void poner(QWidget* d, const QString& nombre, const QString& texto)
-{
-    control<QWidget>(d, nombre)->setProperty("text", texto);
-}
-
-using Pasos = std::function<void(QWidget*, Cajas&)>;
 using Abrir = std::function<bool(clsNomencla&, QSqlDatabase&)>;
 
 Abrir metodo(bool (clsNomencla::*m)(const QString&, QSqlDatabase&))
@@ -53,171 +69,67 @@ Abrir metodo(bool (clsNomencla::*m)(const QString&, QSqlDatabase&))
     return [m](clsNomencla& n, QSqlDatabase& db) { return (n.*m)(u"1"_s, db); };
 }
 
-// Lists of names (units: with an abbreviation): add, remove the found one;
-// they have no update.
-Pasos simple(const QString& nuevo, const QString& quitado, const QString& abreviatura = {})
-{
-    return [=](QWidget* d, Cajas& c) {
-        auto* t = control<QLineEdit>(d, u"Text1"_s);
-        t->insert(nuevo);
-        if (!abreviatura.isEmpty())
-            control<QLineEdit>(d, u"Text2"_s)->insert(abreviatura);
-        pulsar(d, u"Bt(0)"_s);
-        listo(c, guardadoC);
-        t->clear();
-        t->insert(quitado);
-        quitar(d, c, u"Bt(2)"_s);
-        listo(c, hecho);
-    };
-}
-
-// Records of several boxes Tx(i): add (empty texts left alone), pick by the
-// grid's column and change the box `campo`, pick and remove.
-Pasos registro(const QStringList& nuevo, const QString& elegido, int columna, int campo, const QString& cambio,
-               const QString& quitado)
-{
-    return [=](QWidget* d, Cajas& c) {
-        for (int i = 0; i < nuevo.size(); ++i)
-            if (!nuevo[i].isEmpty())
-                poner(d, u"Tx(%1)"_s.arg(i), nuevo[i]);
-        pulsar(d, u"Bt(0)"_s);
-        listo(c, guardadoE);
-        elegir(d, elegido, columna);
-        poner(d, u"Tx(%1)"_s.arg(campo), cambio);
-        pulsar(d, u"Bt(0)"_s);
-        listo(c, guardadoE);
-        elegir(d, quitado, columna);
-        quitar(d, c, u"Bt(1)"_s);
-        listo(c, hecho);
-    };
-}
-
-Pasos codificada(const QString& nuevo, const QString& elegido, int campo, const QString& cambio, const QString& quitado)
-{
-    return registro({nuevo}, elegido, 0, campo, cambio, quitado);
-}
-
-// Named lists: add, pick and rename, pick and remove.
-Pasos nombrada(const QString& nuevo, const QString& elegido, const QString& cambio, const QString& quitado)
-{
-    return [=](QWidget* d, Cajas& c) {
-        auto* t = control<QLineEdit>(d, u"Text1"_s);
-        t->insert(nuevo);
-        pulsar(d, u"Bt(0)"_s);
-        listo(c, guardadoE);
-        elegir(d, elegido);
-        t->clear();
-        t->insert(cambio);
-        pulsar(d, u"Bt(0)"_s);
-        listo(c, guardadoE);
-        elegir(d, quitado);
-        quitar(d, c, u"Bt(1)"_s);
-        listo(c, pregunta);
-    };
-}
-
-// A click on a place of the picked zone, with the dialog active.
-void lugar(QWidget* d, const QString& nombre)
-{
-    d->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(d));
-    auto* gr2 = control<Alfarje>(d, u"GR2"_s);
-    const int f = filaCon(gr2, nombre);
-    QVERIFY(f >= 0);
-    QTest::mouseClick(gr2->viewport(), Qt::LeftButton, {}, gr2->visualRect(gr2->model()->index(f, 0)).center());
-}
-
-void zonas(QWidget* d, Cajas& c)
-{
-    d->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(d));
-    tx(d, 0)->setText(u"Galápagos"_s);
-    pulsar(d, u"Bt(0)"_s);
-    listo(c, guardadoE);
-    elegir(d, u"Valles"_s);
-    tx(d, 0)->setText(u"Valles orientales"_s);
-    pulsar(d, u"Bt(0)"_s);
-    listo(c, guardadoE);
-    // A place renamed: this tenant's customers of the zone follow it.
-    elegir(d, u"Quito Norte"_s);
-    lugar(d, u"Carcelén"_s);
-    tx(d, 2)->setText(u"Carcelén Bajo"_s);
-    pulsar(d, u"Bt(5)"_s);
-    listo(c, u"La información se ha guardado con éxito en la base de datos!"_s);
-    lugar(d, u"El Condado"_s);
-    quitar(d, c, u"Bt(4)"_s);
-    listo(c, hecho);
-    elegir(d, u"Temporal"_s);
-    quitar(d, c, u"Bt(1)"_s);
-    listo(c, hecho);
-}
-
-void fechasIva(QWidget* d, Cajas& c)
-{
-    const int anio = QDate::currentDate().year();
-    auto* dt = control<QDateEdit>(d, u"DT"_s);
-    dt->setDate(QDate(anio, 6, 15));
-    pulsar(d, u"Bt(0)"_s);
-    listo(c, guardadoC);
-    dt->setDate(QDate(anio, 10, 9));
-    QVERIFY(control<Alfarje>(d, u"GR"_s)->Row() >= 0);
-    quitar(d, c, u"Bt(2)"_s);
-    listo(c, hecho);
-}
-
+// Each dialog saves a new record, renames one and removes another (the
+// simple lists have no rename: the name typed is the one removed).
 struct Caso {
-    const char* nombre;
-    QString forma;
-    QStringList tablas; // where tenant '1' must show the change
+    const char* forma;
+    const char* tablas; // where tenant '1' must show the change
     Abrir abrir;
-    Pasos pasos;
+    const char* pasos;
 };
 
 const QList<Caso>& casos()
 {
     using N = clsNomencla;
     static const QList<Caso> lista{
-        {"Ciudades", u"frmLsCiudad"_s, {u"lsciudades"_s}, metodo(&N::Ciudades), simple(u"Pasaje"_s, u"Tena"_s)},
-        {"Departamentos", u"frmLsDepartam"_s, {u"lsdepartam"_s}, metodo(&N::Departamentos),
-         simple(u"Auditoría"_s, u"Sistemas"_s)},
-        {"Contenidos", u"frmLsContenido"_s, {u"lscontenidos"_s}, metodo(&N::Contenidos),
-         simple(u"Funda protectora"_s, u"Manual de usuario"_s)},
-        {"CategoriaClientes", u"frmLsCategorias"_s, {u"mcatclie"_s}, metodo(&N::CategoriaClientes),
-         codificada(u"Supermercados"_s, u"Minorista"_s, 0, u"Minorista de barrio"_s, u"Eventual"_s)},
-        {"Cargos", u"frmLsCargos"_s, {u"cargos"_s}, metodo(&N::Cargos),
-         codificada(u"Supervisor"_s, u"Chofer"_s, 0, u"Chofer repartidor"_s, u"Cajero"_s)},
-        {"DocumentAutorizSRI", u"frmLsDocAutSRI"_s, {u"sri_documentos"_s}, metodo(&N::DocumentAutorizSRI),
-         codificada(u"18"_s, u"08"_s, 1, u"Boletos para eventos"_s, u"09"_s)},
-        {"SustentoTributario", u"frmLsSustentos"_s, {u"sri_sustentos"_s}, metodo(&N::SustentoTributario),
-         codificada(u"14"_s, u"05"_s, 1, u"Liquidación de viajes"_s, u"09"_s)},
-        {"TipoClientes", u"frmLsTipoCli"_s, {u"mtipclie"_s}, metodo(&N::TipoClientes),
-         codificada(u"Mayorista"_s, u"Preferencial"_s, 0, u"Preferencial oro"_s, u"Ocasional"_s)},
-        {"ZonaClientes", u"frmLsZona"_s, {u"mzonaclie"_s, u"mzonalugar"_s, u"mcliente"_s}, metodo(&N::ZonaClientes), zonas},
-        {"Contratos", u"frmLsContratos"_s, {u"lscontratos"_s}, metodo(&N::Contratos),
-         nombrada(u"CT-2025-020 Limpieza de oficinas"_s, u"CT-2025-011 Servicio de seguridad"_s,
-                  u"CT-2025-011 Servicio de seguridad y monitoreo"_s, u"CT-2024-001 Mantenimiento de equipos"_s)},
-        {"Cuentas", u"frmLsCuentas"_s, {u"lscuentas"_s}, metodo(&N::Cuentas),
-         nombrada(u"1.1.01.03 Fondo rotativo"_s, u"1.1.01.02 Caja chica"_s, u"1.1.01.02 Caja chica matriz"_s,
-                  u"5.2.01.05 Gastos de movilización"_s)},
-        {"Paises", u"frmLsPaises"_s, {u"lspaises"_s}, metodo(&N::Paises),
-         nombrada(u"Uruguay"_s, u"Alemania"_s, u"Alemania Federal"_s, u"Chile"_s)},
-        {"Medidas", u"frmMedidas"_s, {u"amedidas"_s}, metodo(&N::Medidas), simple(u"Barril"_s, u"Docena"_s, u"bar"_s)},
-        {"Bancos", u"frmLsBancos"_s, {u"lsbancos"_s}, metodo(&N::Bancos),
-         nombrada(u"Banco Capital"_s, u"Banco del Austro"_s, u"Banco del Austro S.A."_s, u"Cooperativa JEP"_s)},
-        {"Empresas", u"frmEmpresas"_s, {u"empresas"_s, u"sucursales"_s}, metodo(&N::Empresas),
-         // The rename reaches this tenant's branches of the company.
-         registro({u"Nueva Empresa Uno"_s, {}, u"Av. Central 1"_s, u"022222222"_s, u"Quito"_s, u"Pichincha"_s},
-                  u"Farmacia Santa Lucía"_s, 0, 0, u"Farmacia Santa Lucía Cía. Ltda."_s, u"Inversiones del Valle"_s)},
-        {"Sucursales", u"frmSucursales"_s, {u"sucursales"_s}, metodo(&N::Sucursales),
-         registro({u"Quito"_s, u"Sucursal Norte"_s, u"Av. de la Prensa N50"_s, u"022999888"_s}, u"Sucursal Cuenca"_s, 1, 1,
-                  u"Sucursal Cuenca Centro"_s, u"El Ejido"_s)},
-        {"SubProveedores", u"frmSubProveedor"_s, {u"subproveedor"_s},
-         [](N& n, QSqlDatabase& db) { return n.SubProveedores(u"1"_s, 1, db); },
-         // IT-100 is in review: the status that may be removed.
-         registro({u"SP-004"_s, u"0990011223001"_s, u"Farmacéutica Nueva"_s, u"Av. Olmedo 100, Guayaquil"_s}, u"SP-002"_s, 0, 2,
-                  u"María Fernanda Zambrano de Vera"_s, u"IT-100"_s)},
-        {"ListaFechasIVA", u"frmListaFechasIVA"_s, {u"fechaivadif"_s},
-         [](N& n, QSqlDatabase& db) { n.ListaFechasIVA(u"1"_s, db); return true; }, fechasIva},
+        {"frmLsCiudad", "lsciudades", metodo(&N::Ciudades), "Text1=Pasaje; Bt(0); Text1=Tena; -Bt(2)"},
+        {"frmLsDepartam", "lsdepartam", metodo(&N::Departamentos), "Text1=Auditoría; Bt(0); Text1=Sistemas; -Bt(2)"},
+        {"frmLsContenido", "lscontenidos", metodo(&N::Contenidos),
+         "Text1=Funda protectora; Bt(0); Text1=Manual de usuario; -Bt(2)"},
+        {"frmMedidas", "amedidas", metodo(&N::Medidas), "Text1=Barril; Text2=bar; Bt(0); Text1=Docena; -Bt(2)"},
+        {"frmLsCategorias", "mcatclie", metodo(&N::CategoriaClientes),
+         "Tx(0)=Supermercados; Bt(0); GR=Minorista; Tx(0)=Minorista de barrio; Bt(0); GR=Eventual; -Bt(1)"},
+        {"frmLsCargos", "cargos", metodo(&N::Cargos),
+         "Tx(0)=Supervisor; Bt(0); GR=Chofer; Tx(0)=Chofer repartidor; Bt(0); GR=Cajero; -Bt(1)"},
+        {"frmLsDocAutSRI", "sri_documentos", metodo(&N::DocumentAutorizSRI),
+         "Tx(0)=18; Bt(0); GR=08; Tx(1)=Boletos para eventos; Bt(0); GR=09; -Bt(1)"},
+        {"frmLsSustentos", "sri_sustentos", metodo(&N::SustentoTributario),
+         "Tx(0)=14; Bt(0); GR=05; Tx(1)=Liquidación de viajes; Bt(0); GR=09; -Bt(1)"},
+        {"frmLsTipoCli", "mtipclie", metodo(&N::TipoClientes),
+         "Tx(0)=Mayorista; Bt(0); GR=Preferencial; Tx(0)=Preferencial oro; Bt(0); GR=Ocasional; -Bt(1)"},
+        // A place renamed (Bt(5)): this tenant's customers of the zone follow it.
+        {"frmLsZona", "mzonaclie mzonalugar mcliente", metodo(&N::ZonaClientes),
+         "Tx(0)=Galápagos; Bt(0); GR=Valles; Tx(0)=Valles orientales; Bt(0); GR=Quito Norte; GR2=Carcelén; "
+         "Tx(2)=Carcelén Bajo; Bt(5); GR2=El Condado; -Bt(4); GR=Temporal; -Bt(1)"},
+        {"frmLsContratos", "lscontratos", metodo(&N::Contratos),
+         "Text1=CT-2025-020 Limpieza de oficinas; Bt(0); GR=CT-2025-011 Servicio de seguridad; "
+         "Text1=CT-2025-011 Servicio de seguridad y monitoreo; Bt(0); GR=CT-2024-001 Mantenimiento de equipos; -Bt(1)"},
+        {"frmLsCuentas", "lscuentas", metodo(&N::Cuentas),
+         "Text1=1.1.01.03 Fondo rotativo; Bt(0); GR=1.1.01.02 Caja chica; Text1=1.1.01.02 Caja chica matriz; Bt(0); "
+         "GR=5.2.01.05 Gastos de movilización; -Bt(1)"},
+        {"frmLsPaises", "lspaises", metodo(&N::Paises),
+         "Text1=Uruguay; Bt(0); GR=Alemania; Text1=Alemania Federal; Bt(0); GR=Chile; -Bt(1)"},
+        {"frmLsBancos", "lsbancos", metodo(&N::Bancos),
+         "Text1=Banco Capital; Bt(0); GR=Banco del Austro; Text1=Banco del Austro S.A.; Bt(0); GR=Cooperativa JEP; "
+         "-Bt(1)"},
+        // The rename reaches this tenant's branches of the company.
+        {"frmEmpresas", "empresas sucursales", metodo(&N::Empresas),
+         "Tx(0)=Nueva Empresa Uno; Tx(2)=Av. Central 1; Tx(3)=022222222; Tx(4)=Quito; Tx(5)=Pichincha; Bt(0); "
+         "GR=Farmacia Santa Lucía; Tx(0)=Farmacia Santa Lucía Cía. Ltda.; Bt(0); GR=Inversiones del Valle; -Bt(1)"},
+        {"frmSucursales", "sucursales", metodo(&N::Sucursales),
+         "Tx(0)=Quito; Tx(1)=Sucursal Norte; Tx(2)=Av. de la Prensa N50; Tx(3)=022999888; Bt(0); "
+         "GR/1=Sucursal Cuenca; Tx(1)=Sucursal Cuenca Centro; Bt(0); GR/1=El Ejido; -Bt(1)"},
+        // IT-100 is in review: the status that may be removed.
+        {"frmSubProveedor", "subproveedor", [](N& n, QSqlDatabase& db) { return n.SubProveedores(u"1"_s, 1, db); },
+         "Tx(0)=SP-004; Tx(1)=0990011223001; Tx(2)=Farmacéutica Nueva; Tx(3)=Av. Olmedo 100, Guayaquil; Bt(0); "
+         "GR=SP-002; Tx(2)=María Fernanda Zambrano de Vera; Bt(0); GR=IT-100; -Bt(1)"},
+        // The second date picks the demo's row that is removed.
+        {"frmListaFechasIVA", "fechaivadif",
+         [](N& n, QSqlDatabase& db) {
+             n.ListaFechasIVA(u"1"_s, db);
+             return true;
+         },
+         "DT=06-15; Bt(0); DT=10-09; -Bt(2)"},
     };
     return lista;
 }
@@ -244,8 +156,8 @@ class PruebaInquilinos : public QObject {
     Q_OBJECT
     QSqlDatabase db;
     clsNomencla nomencla;
-    QStringList tablas;
-    QHash<QString, QStringList> antes2;
+    QHash<QString, QStringList> antes2; // tenant '2', table by table
+    qsizetype filas2 = 0;
 
 private Q_SLOTS:
     void initTestCase()
@@ -260,11 +172,10 @@ private Q_SLOTS:
                         "INSERT INTO mZonaClie (id,cod,zon,des,est) VALUES ('1',7,'Temporal','Ferias y eventos',1);\n"
                         "INSERT INTO empresas (id,emp,dir,tel,ciu,prov,est) VALUES "
                         "('1','Inversiones del Valle','Av. Ilaló','022860000','Sangolquí','Pichincha',1)"_s);
-        tablas = filas(db, u"SELECT TABLE_NAME FROM information_schema.COLUMNS WHERE TABLE_SCHEMA=DATABASE() "
-                           "AND LOWER(COLUMN_NAME)='id' ORDER BY TABLE_NAME"_s);
         // Tenant '2' gets a twin of every row of tenant '1' (codes per tenant
         // kept, where tenant '2' already holds the code its own row stays).
-        for (const QString& t : std::as_const(tablas)) {
+        for (const QString& t : filas(db, u"SELECT TABLE_NAME FROM information_schema.COLUMNS WHERE "
+                                          "TABLE_SCHEMA=DATABASE() AND LOWER(COLUMN_NAME)='id'"_s)) {
             QStringList columnas, valores;
             for (const QString& c : filas(db, sqlColumnas, {t})) {
                 const QStringList p = c.split(u'|');
@@ -276,61 +187,45 @@ private Q_SLOTS:
             ejecutarSql(db, u"INSERT IGNORE INTO `%1` (%2) SELECT %3 FROM `%1` WHERE id='1'"_s.arg(t, columnas.join(u','),
                                                                                                  valores.join(u',')));
             antes2.insert(t, foto(db, t, u"2"_s));
+            QVERIFY2(!antes2[t].isEmpty(), qPrintable(t));
+            filas2 += antes2[t].size();
         }
         QCOMPARE(valor(db, u"SELECT COUNT(*) FROM mCatClie a JOIN mCatClie b ON a.cod=b.cod AND a.id='1' AND b.id='2'"_s).toInt(), 7);
     }
 
+    // Tenant '2' is compared byte for byte, in every table, after each dialog
+    // (the first dialog to fail is the one to blame).
     void cada_dialogo_data()
     {
         QTest::addColumn<int>("caso");
         for (int i = 0; i < casos().size(); ++i)
-            QTest::newRow(casos()[i].nombre) << i;
+            QTest::newRow(casos()[i].forma) << i;
     }
 
     void cada_dialogo()
     {
         QFETCH(int, caso);
         const Caso& c = casos().at(caso);
+        const QStringList tablas = QString::fromUtf8(c.tablas).split(u' ');
         QList<QStringList> antes1;
-        QHash<QString, QStringList> otro; // this case alone is to blame for a change
-        for (const QString& t : c.tablas)
+        for (const QString& t : tablas)
             antes1 << foto(db, t, u"1"_s);
-        for (const QString& t : std::as_const(tablas))
-            otro.insert(t, foto(db, t, u"2"_s));
         Cajas cajas;
-        alAbrir(c.forma, [&](QWidget* d) { c.pasos(d, cajas); });
+        alAbrir(QString::fromUtf8(c.forma), [&](QWidget* d) { seguir(d, cajas, c.pasos); });
         const bool hubo = c.abrir(nomencla, db);
         if (QTest::currentTestFailed())
             return;
         QVERIFY(hubo);
         QVERIFY(!cajas.sinRespuesta);
-        for (int i = 0; i < c.tablas.size(); ++i)
-            QVERIFY2(foto(db, c.tablas[i], u"1"_s) != antes1[i], qPrintable(u"tenant 1 unchanged in "_s + c.tablas[i]));
-        for (const QString& t : std::as_const(tablas))
-            QVERIFY2(foto(db, t, u"2"_s) == otro.value(t), qPrintable(u"tenant 2 changed in "_s + t));
-    }
-
-    // After all of them, tenant '2' byte for byte, table by table.
-    void inquilino_dos_intacto_data()
-    {
-        QTest::addColumn<QString>("tabla");
-        for (const QString& t : std::as_const(tablas))
-            QTest::newRow(qPrintable(t)) << t;
-    }
-
-    void inquilino_dos_intacto()
-    {
-        QFETCH(QString, tabla);
-        QVERIFY(!antes2.value(tabla).isEmpty());
-        QCOMPARE(foto(db, tabla, u"2"_s), antes2.value(tabla));
+        for (int i = 0; i < tablas.size(); ++i)
+            QVERIFY2(foto(db, tablas[i], u"1"_s) != antes1[i], qPrintable(u"tenant 1 unchanged in "_s + tablas[i]));
+        for (auto [t, antes] : antes2.asKeyValueRange())
+            QVERIFY2(foto(db, t, u"2"_s) == antes, qPrintable(u"tenant 2 changed in "_s + t));
     }
 
     void cleanupTestCase()
     {
-        qsizetype filas2 = 0;
-        for (const QStringList& f : std::as_const(antes2))
-            filas2 += f.size();
-        qInfo("operations %d, tables %lld, rows of tenant 2 compared %lld", operaciones, qlonglong(tablas.size()),
+        qInfo("operations %d, tables %lld, rows of tenant 2 compared %lld", operaciones, qlonglong(antes2.size()),
               qlonglong(filas2));
     }
 };
