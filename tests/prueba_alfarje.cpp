@@ -28,9 +28,10 @@ class PruebaAlfarje : public QObject {
         QVERIFY(g.modelo()->cargar(q, campos));
     }
 
+    // One column shown; the key, past the format, is hidden.
     void ciudades(Alfarje& g)
     {
-        g.setFormatocolumnas(u"<CIUDAD                  |."_s);
+        g.setFormatocolumnas(u"<CIUDAD                  "_s);
         llenar(g, u"SELECT ciu, id FROM ciu ORDER BY orden"_s, {0, 1});
     }
 
@@ -43,9 +44,7 @@ private Q_SLOTS:
         QSqlQuery q(bd_);
         QVERIFY(q.exec(u"CREATE TABLE ciu (orden INTEGER, ciu TEXT, id TEXT)"_s));
         // In the collation's order, as the server returns them.
-        const QStringList nombres = {u"Ambato"_s, u"Azogues"_s, u"Babahoyo"_s, u"cacha"_s,
-                                     u"Cáceres"_s, u"Cañar"_s, u"Cuenca"_s, u"Ébano"_s,
-                                     u"Esmeraldas"_s, u"Quito"_s, u"Quito Sur"_s};
+        const QStringList nombres = {u"Ambato"_s, u"cacha"_s, u"Cáceres"_s, u"Cañar"_s, u"Quito"_s, u"Quito Sur"_s};
         for (int i = 0; i < nombres.size(); ++i)
             QVERIFY(q.exec(u"INSERT INTO ciu VALUES (%1, '%2', 'C%1')"_s.arg(i).arg(nombres[i])));
         QVERIFY(q.exec(u"CREATE TABLE lot (cod INTEGER, lot TEXT, can REAL, fec TEXT, est INTEGER)"_s));
@@ -53,23 +52,20 @@ private Q_SLOTS:
                        " (2, NULL, 500, NULL, 0), (3, 'L-03', 0.25, '2024-12-31', NULL)"_s));
     }
 
-    // Hidden columns, whether from the format or from fields past it, keep their cells.
+    // Columns hidden by the format ("." or "xxxx.", a key) or past it keep
+    // their cells; a longer AddItem grows the model with a hidden column.
     void columnasOcultas()
     {
         Alfarje g;
         g.setFormatocolumnas(u"<FACTURA   |.|xxxx.|^SERV. ELEC."_s);
-        QVERIFY(g.isColumnHidden(1));
-        QVERIFY(g.isColumnHidden(2));  // "xxxx." holds a key
+        QVERIFY(g.isColumnHidden(1) && g.isColumnHidden(2));
         QVERIFY(!g.isColumnHidden(3)); // a title that ends in a point is shown
-
-        g.setFormatocolumnas(u"<CIUDAD      "_s);
-        llenar(g, u"SELECT ciu, id, orden FROM ciu ORDER BY orden"_s, {0, 1, 2});
+        ciudades(g);
         QCOMPARE(g.CellText(4, 1), u"C4"_s);
         QVERIFY(g.isColumnHidden(1));
-        // A longer AddItem grows the model; the new column is hidden too.
-        g.AddItem(u"Zamora\tC99\t99\textra"_s);
-        QVERIFY(g.isColumnHidden(3));
-        QCOMPARE(g.CellText(11, 3), u"extra"_s);
+        g.AddItem(u"Zamora\tC99\textra"_s);
+        QVERIFY(g.isColumnHidden(2));
+        QCOMPARE(g.CellText(6, 2), u"extra"_s);
     }
 
     // Numbers and dates keep their type; column formats change what is shown,
@@ -79,10 +75,7 @@ private Q_SLOTS:
         Alfarje g;
         g.setFormatocolumnas(u">COD |<LOTE   |>CANTIDAD |<FECHA      |^E"_s);
         llenar(g, u"SELECT cod, lot, can, date(fec), est FROM lot ORDER BY cod"_s, {0, 1, 2, 3, 4});
-        QCOMPARE(g.CellText(1, 2), u"500"_s);
-        QCOMPARE(g.CellText(1, 1), QString()); // NULL
         QVERIFY(g.modelo()->esNulo(2, 4));
-        QCOMPARE(g.CellValue(0, 1), 0.0); // not a number
         g.setColumnFormat(2, u"##0.00"_s);
         g.setColumnFormat(3, u"ddd. dd-MMM-yyyy"_s);
         g.setColumnKind(4, 3);
@@ -92,113 +85,80 @@ private Q_SLOTS:
         const QLocale ec(QLocale::Spanish, QLocale::Ecuador);
         QCOMPARE(m->data(m->index(0, 3)).toString(), ec.toString(QDate(2024, 1, 5), u"ddd. dd-MMM-yyyy"_s));
         QCOMPARE(g.CellText(0, 3), u"2024-01-05"_s);
-        QCOMPARE(m->data(m->index(1, 3)).toString(), QString());
         QCOMPARE(m->data(m->index(1, 4), Qt::CheckStateRole).toInt(), int(Qt::Unchecked));
         // A text that does not fit the integers turns the column into text.
         g.AddItem(u"4A\tL-04\t1"_s);
         QCOMPARE(g.CellText(3, 0), u"4A"_s);
         QCOMPARE(g.CellValue(2, 0), 3.0);
-        QCOMPARE(g.CellText(3, 4), QString()); // short row
         QCOMPARE(g.ColumnTotal(2), 513.75);
     }
 
-    // The search relies on the rows being in the server's collation order.
+    // The search relies on the rows being in the server's collation order,
+    // also after rows are added out of order or removed.
     void busquedaMientrasSeEscribe()
     {
         QVERIFY(plegado::comparar(u"Quito Sur", u"Quito-Sur") < 0); // blank < punctuation
         QVERIFY(plegado::comparar(u"A-1", u"A1") < 0);              // punctuation < digit
-        QVERIFY(plegado::comparar(u"A9", u"AA") < 0);               // digit < letter
         Alfarje g;
         ciudades(g);
-        QCOMPARE(g.FindRow(u"cac"_s, 0, 5), 3);  // "cacha" comes first in the grid
-        QCOMPARE(g.FindRow(u"CACE"_s, 0, 5), 4); // Cáceres, accent and case ignored
-        QCOMPARE(g.FindRow(u"can"_s, 0, 5), 5);  // ñ weighs as n
-        QCOMPARE(g.FindRow(u"quito"_s, 0, 5), 9);
-        QCOMPARE(g.FindRow(u"quito s"_s, 0, 5), 10);
-        QCOMPARE(g.FindRow(u"Zz"_s, 0, 5), -1);
-        QCOMPARE(g.FindRow(QString(), 0, 5), -1);
-        QCOMPARE(g.FindRow(u"C10"_s, 1, 5), 10); // the hidden column too
+        QCOMPARE(g.FindRow(u"cac"_s, 0, 5), 1);  // "cacha" comes first in the grid
+        QCOMPARE(g.FindRow(u"CACE"_s, 0, 5), 2); // Cáceres, accent and case ignored
+        QCOMPARE(g.FindRow(u"can"_s, 0, 5), 3);  // ñ weighs as n
+        QCOMPARE(g.FindRow(u"quito s"_s, 0, 5), 5);
+        QCOMPARE(g.FindRow(u"C5"_s, 1, 5), 5); // the hidden column too
         // Mode 0: the whole text; case and trailing blanks ignored, accents not.
-        QCOMPARE(g.FindRow(u"QUITO SUR"_s, 0, 0), 10);
+        QCOMPARE(g.FindRow(u"QUITO SUR"_s, 0, 0), 5);
         QCOMPARE(g.FindRow(u"caceres"_s, 0, 0), -1);
-        QCOMPARE(g.FindRow(u"qui"_s, 0, 0), -1);
-        g.AddItem(u"Puyo   "_s);
-        QCOMPARE(g.FindRow(u"puyo"_s, 0, 0), 11);
-    }
-
-    // Rows added out of order and rows removed are still found in grid order.
-    void busquedaTrasAgregarYQuitar()
-    {
-        Alfarje g;
-        ciudades(g);
-        g.AddItem(u"Aguarico\tC20"_s);
-        g.AddItem(u"Cayambe\tC21"_s);
-        QCOMPARE(g.FindRow(u"agu"_s, 0, 5), 11);
+        g.AddItem(u"Aguarico   "_s);
+        QCOMPARE(g.FindRow(u"aguarico"_s, 0, 0), 6);
+        QCOMPARE(g.FindRow(u"agu"_s, 0, 5), 6);
         g.setRow(0);
         g.RemoveItem(); // Ambato
         QCOMPARE(g.FindRow(u"am"_s, 0, 5), -1);
-        QCOMPARE(g.FindRow(u"agu"_s, 0, 5), 10);
-        g.setRow(10);
-        g.RemoveItem(); // Aguarico
-        QCOMPARE(g.FindRow(u"agu"_s, 0, 5), -1);
-        QCOMPARE(g.FindRow(u"cay"_s, 0, 5), 10);
+        QCOMPARE(g.FindRow(u"agu"_s, 0, 5), 5);
         // After emptying, AddItem alone builds the list.
         g.ClearRows();
         g.AddItem(u"Tena"_s);
         g.AddItem(u"Loja"_s);
-        QCOMPARE(g.FindRow(u"t"_s, 0, 5), 0);
         QCOMPARE(g.FindRow(u"l"_s, 0, 5), 1);
     }
 
-    // Reads outside the grid give "" and 0; a removal leaves no row selected.
-    void filasYLecturasFueraDeLaGrilla()
-    {
-        Alfarje g;
-        g.setFormatocolumnas(u"<A   |>B   "_s);
-        g.RemoveItem(); // nothing selected: nothing happens
-        g.AddItem(u"uno\t1"_s);
-        g.AddItem(u"dos\t2"_s);
-        QCOMPARE(g.CellText(0, 9), QString());
-        QCOMPARE(g.CellValue(-1, 1), 0.0);
-        g.setRow(2); // past the last row: none
-        QCOMPARE(g.Row(), -1);
-        g.setRow(0);
-        g.RemoveItem();
-        QCOMPARE(g.CellText(0, 0), u"dos"_s);
-        QCOMPARE(g.Row(), -1);
-        // A row chosen while repainting is stopped is selected when it resumes.
-        g.setRedraw(false);
-        for (int i = 0; i < 100; ++i)
-            g.AddItem(u"n%1\t%1"_s.arg(i));
-        g.setRow(50);
-        g.setRedraw(true);
-        QCOMPARE(g.Row(), 50);
-    }
-
+    // Reads outside the grid give "" and 0; a removal leaves no row selected;
+    // a row chosen while repainting is stopped is selected when it resumes.
     // RowChange once per change; no Click off the rows; End goes to the last
     // row; letters never move the selection and a KeyPress slot may cancel them.
-    void senales()
+    void filasYSenales()
     {
         Alfarje g;
         ciudades(g);
         QSignalSpy cambio(&g, &Alfarje::RowChange);
         QSignalSpy click(&g, &Alfarje::Click);
+        QCOMPARE(g.CellText(0, 9), QString());
+        QCOMPARE(g.CellValue(-1, 1), 0.0);
         g.setRow(2);
         g.setRow(2);
         QCOMPARE(cambio.count(), 1);
-        g.ClearRows(); // the selection goes with the rows
-        QCOMPARE(cambio.count(), 2);
+        g.RemoveItem();
+        QCOMPARE(g.CellText(2, 0), u"Cañar"_s);
+        QCOMPARE(g.Row(), -1);
+        g.RemoveItem(); // nothing selected: nothing happens
+        QCOMPARE(g.RowCount(), 5);
+        g.setRedraw(false);
+        g.AddItem(u"Zaruma\tC9"_s);
+        g.setRow(5);
+        g.setRedraw(true);
+        QCOMPARE(g.Row(), 5);
 
-        ciudades(g);
         g.resize(300, 400);
         g.show();
         QVERIFY(QTest::qWaitForWindowExposed(&g));
         QTest::mouseDClick(g.viewport(), Qt::LeftButton, {}, QPoint(5, g.viewport()->height() - 3));
         QCOMPARE(click.count(), 0);
+        QTest::keyClick(&g, Qt::Key_Home);
         QTest::keyClick(&g, Qt::Key_End);
-        QCOMPARE(g.Row(), 10);
+        QCOMPARE(g.Row(), 5);
         QTest::keyClick(&g, Qt::Key_A);
-        QCOMPARE(g.Row(), 10);
+        QCOMPARE(g.Row(), 5);
         connect(&g, &Alfarje::KeyPress, this, [](int& k) {
             if (k == u'x')
                 k = 0;

@@ -9,6 +9,7 @@
 
 using namespace Qt::StringLiterals;
 using namespace prueba;
+using namespace nomencla;
 
 class PruebaConcurrencia : public QObject {
     Q_OBJECT
@@ -23,16 +24,13 @@ private Q_SLOTS:
             {
                 // Opened by the first statement; a refusal counts as a failure.
                 QSqlDatabase propia = QSqlDatabase::cloneDatabase(db, u"empleado%1"_s.arg(n));
+                auto insertar = [&](qint32 clave) {
+                    ejecutar(propia, u"INSERT INTO mCatClie (id,cod,cat) VALUES ('1',?,?)"_s, {clave, u"Empleado %1"_s.arg(n)});
+                };
                 for (int i = 0; i < porEmpleado; ++i) {
                     try {
-                        nomencla::insertarConClaveSiguiente(
-                            propia, u"SELECT MAX(cod) FROM mCatClie WHERE id=?"_s, {u"1"_s},
-                            [&](qint32 clave) {
-                                nomencla::ejecutar(propia, u"INSERT INTO mCatClie (id,cod,cat) VALUES (?,?,?)"_s,
-                                                   {u"1"_s, clave, u"Empleado %1 n.º %2"_s.arg(n).arg(i)});
-                            },
-                            1000);
-                    } catch (const nomencla::ErrorBD& e) {
+                        insertarConClaveSiguiente(propia, u"SELECT MAX(cod) FROM mCatClie WHERE id=?"_s, {u"1"_s}, insertar, 1000);
+                    } catch (const ErrorBD& e) {
                         qWarning("%s", e.what());
                         ++fallos;
                     }

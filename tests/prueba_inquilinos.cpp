@@ -8,21 +8,19 @@
 #include <QAbstractButton>
 #include <QDateEdit>
 #include <QFile>
-#include <functional>
 
 using namespace Qt::StringLiterals;
 using namespace prueba;
-using nomencla::Alfarje;
 
 namespace {
 
 int operaciones = 0;
 
 // A dialog's steps, separated by "; ". "Tx(0)=text" fills a box (a date box
-// with "MM-dd" of this year). "GR=text" double-clicks the row of the grid with
-// the text in column 0 ("GR/1=text": in column 1); the places, GR2, are
-// clicked. "Bt(0)" presses a button and expects a new box telling the save;
-// "-Bt(1)" confirms a removal and expects it done.
+// with "MM-dd" of this year). "GR=text" double-clicks the row of a grid with
+// the text in column 0 ("GR/1=text": in column 1). "Bt(0)" presses a button
+// and expects a new box telling the save; "-Bt(1)" confirms a removal and
+// expects it done.
 void seguir(QWidget* d, Cajas& c, const char* pasos)
 {
     for (const QString& paso : QString::fromUtf8(pasos).split(u"; "_s)) {
@@ -31,16 +29,10 @@ void seguir(QWidget* d, Cajas& c, const char* pasos)
         const QString texto = paso.section(u'=', 1);
         auto* w = control<QWidget>(d, nombre.section(u'/', 0, 0));
         QVERIFY(w);
-        if (auto* gr = qobject_cast<Alfarje*>(w)) {
-            const int fila = filaCon(gr, texto, nombre.section(u'/', 1).toInt());
-            if (nombre.startsWith(u"GR2"_s)) { // the places: a click, with the focus
-                d->activateWindow();
-                QVERIFY(QTest::qWaitForWindowActive(d) && fila >= 0);
-                const QPoint punto = gr->visualRect(gr->model()->index(fila, 0)).center();
-                QTest::mouseClick(gr->viewport(), Qt::LeftButton, {}, punto);
-            } else {
-                dobleClic(gr, fila);
-            }
+        if (auto* gr = qobject_cast<nomencla::Alfarje*>(w)) {
+            d->activateWindow(); // the places follow a row only with the focus
+            QVERIFY(QTest::qWaitForWindowActive(d));
+            dobleClic(gr, filaCon(gr, texto, nombre.section(u'/', 1).toInt()));
         } else if (qobject_cast<QAbstractButton*>(w)) {
             if (quitar)
                 c.responder(QMessageBox::Yes);
@@ -62,86 +54,72 @@ void seguir(QWidget* d, Cajas& c, const char* pasos)
     }
 }
 
-using Abrir = std::function<bool(clsNomencla&, QSqlDatabase&)>;
-
-Abrir metodo(bool (clsNomencla::*m)(const QString&, QSqlDatabase&))
-{
-    return [m](clsNomencla& n, QSqlDatabase& db) { return (n.*m)(u"1"_s, db); };
-}
+using N = clsNomencla;
 
 // Each dialog saves a new record, renames one and removes another (the
 // simple lists have no rename: the name typed is the one removed).
 struct Caso {
     const char* forma;
     const char* tablas; // where tenant '1' must show the change
-    Abrir abrir;
+    std::function<bool(N&, const QString&, QSqlDatabase&)> abrir;
     const char* pasos;
 };
 
-const QList<Caso>& casos()
-{
-    using N = clsNomencla;
-    static const QList<Caso> lista{
-        {"frmLsCiudad", "lsciudades", metodo(&N::Ciudades), "Text1=Pasaje; Bt(0); Text1=Tena; -Bt(2)"},
-        {"frmLsDepartam", "lsdepartam", metodo(&N::Departamentos), "Text1=Auditoría; Bt(0); Text1=Sistemas; -Bt(2)"},
-        {"frmLsContenido", "lscontenidos", metodo(&N::Contenidos),
-         "Text1=Funda protectora; Bt(0); Text1=Manual de usuario; -Bt(2)"},
-        {"frmMedidas", "amedidas", metodo(&N::Medidas), "Text1=Barril; Text2=bar; Bt(0); Text1=Docena; -Bt(2)"},
-        {"frmLsCategorias", "mcatclie", metodo(&N::CategoriaClientes),
-         "Tx(0)=Supermercados; Bt(0); GR=Minorista; Tx(0)=Minorista de barrio; Bt(0); GR=Eventual; -Bt(1)"},
-        {"frmLsCargos", "cargos", metodo(&N::Cargos),
-         "Tx(0)=Supervisor; Bt(0); GR=Chofer; Tx(0)=Chofer repartidor; Bt(0); GR=Cajero; -Bt(1)"},
-        {"frmLsDocAutSRI", "sri_documentos", metodo(&N::DocumentAutorizSRI),
-         "Tx(0)=18; Bt(0); GR=08; Tx(1)=Boletos para eventos; Bt(0); GR=09; -Bt(1)"},
-        {"frmLsSustentos", "sri_sustentos", metodo(&N::SustentoTributario),
-         "Tx(0)=14; Bt(0); GR=05; Tx(1)=Liquidación de viajes; Bt(0); GR=09; -Bt(1)"},
-        {"frmLsTipoCli", "mtipclie", metodo(&N::TipoClientes),
-         "Tx(0)=Mayorista; Bt(0); GR=Preferencial; Tx(0)=Preferencial oro; Bt(0); GR=Ocasional; -Bt(1)"},
-        // A place renamed (Bt(5)): this tenant's customers of the zone follow it.
-        {"frmLsZona", "mzonaclie mzonalugar mcliente", metodo(&N::ZonaClientes),
-         "Tx(0)=Galápagos; Bt(0); GR=Valles; Tx(0)=Valles orientales; Bt(0); GR=Quito Norte; GR2=Carcelén; "
-         "Tx(2)=Carcelén Bajo; Bt(5); GR2=El Condado; -Bt(4); GR=Temporal; -Bt(1)"},
-        {"frmLsContratos", "lscontratos", metodo(&N::Contratos),
-         "Text1=CT-2025-020 Limpieza de oficinas; Bt(0); GR=CT-2025-011 Servicio de seguridad; "
-         "Text1=CT-2025-011 Servicio de seguridad y monitoreo; Bt(0); GR=CT-2024-001 Mantenimiento de equipos; -Bt(1)"},
-        {"frmLsCuentas", "lscuentas", metodo(&N::Cuentas),
-         "Text1=1.1.01.03 Fondo rotativo; Bt(0); GR=1.1.01.02 Caja chica; Text1=1.1.01.02 Caja chica matriz; Bt(0); "
-         "GR=5.2.01.05 Gastos de movilización; -Bt(1)"},
-        {"frmLsPaises", "lspaises", metodo(&N::Paises),
-         "Text1=Uruguay; Bt(0); GR=Alemania; Text1=Alemania Federal; Bt(0); GR=Chile; -Bt(1)"},
-        {"frmLsBancos", "lsbancos", metodo(&N::Bancos),
-         "Text1=Banco Capital; Bt(0); GR=Banco del Austro; Text1=Banco del Austro S.A.; Bt(0); GR=Cooperativa JEP; "
-         "-Bt(1)"},
-        // The rename reaches this tenant's branches of the company.
-        {"frmEmpresas", "empresas sucursales", metodo(&N::Empresas),
-         "Tx(0)=Nueva Empresa Uno; Tx(2)=Av. Central 1; Tx(3)=022222222; Tx(4)=Quito; Tx(5)=Pichincha; Bt(0); "
-         "GR=Farmacia Santa Lucía; Tx(0)=Farmacia Santa Lucía Cía. Ltda.; Bt(0); GR=Inversiones del Valle; -Bt(1)"},
-        {"frmSucursales", "sucursales", metodo(&N::Sucursales),
-         "Tx(0)=Quito; Tx(1)=Sucursal Norte; Tx(2)=Av. de la Prensa N50; Tx(3)=022999888; Bt(0); "
-         "GR/1=Sucursal Cuenca; Tx(1)=Sucursal Cuenca Centro; Bt(0); GR/1=El Ejido; -Bt(1)"},
-        // IT-100 is in review: the status that may be removed.
-        {"frmSubProveedor", "subproveedor", [](N& n, QSqlDatabase& db) { return n.SubProveedores(u"1"_s, 1, db); },
-         "Tx(0)=SP-004; Tx(1)=0990011223001; Tx(2)=Farmacéutica Nueva; Tx(3)=Av. Olmedo 100, Guayaquil; Bt(0); "
-         "GR=SP-002; Tx(2)=María Fernanda Zambrano de Vera; Bt(0); GR=IT-100; -Bt(1)"},
-        // The second date picks the demo's row that is removed.
-        {"frmListaFechasIVA", "fechaivadif",
-         [](N& n, QSqlDatabase& db) {
-             n.ListaFechasIVA(u"1"_s, db);
-             return true;
-         },
-         "DT=06-15; Bt(0); DT=10-09; -Bt(2)"},
-    };
-    return lista;
-}
-
-const QString sqlColumnas = u"SELECT COLUMN_NAME, DATA_TYPE, EXTRA FROM information_schema.COLUMNS "
-                            "WHERE TABLE_SCHEMA=DATABASE() AND TABLE_NAME=? ORDER BY ORDINAL_POSITION"_s;
+const QList<Caso> casos{
+    {"frmLsCiudad", "lsciudades", &N::Ciudades, "Text1=Pasaje; Bt(0); Text1=Tena; -Bt(2)"},
+    {"frmLsDepartam", "lsdepartam", &N::Departamentos, "Text1=Auditoría; Bt(0); Text1=Sistemas; -Bt(2)"},
+    {"frmLsContenido", "lscontenidos", &N::Contenidos, "Text1=Funda; Bt(0); Text1=Manual de usuario; -Bt(2)"},
+    {"frmMedidas", "amedidas", &N::Medidas, "Text1=Barril; Text2=bar; Bt(0); Text1=Docena; -Bt(2)"},
+    {"frmLsCategorias", "mcatclie", &N::CategoriaClientes,
+     "Tx(0)=Supermercados; Bt(0); GR=Minorista; Tx(0)=Minorista de barrio; Bt(0); GR=Eventual; -Bt(1)"},
+    {"frmLsCargos", "cargos", &N::Cargos,
+     "Tx(0)=Supervisor; Bt(0); GR=Chofer; Tx(0)=Chofer repartidor; Bt(0); GR=Cajero; -Bt(1)"},
+    {"frmLsDocAutSRI", "sri_documentos", &N::DocumentAutorizSRI,
+     "Tx(0)=18; Bt(0); GR=08; Tx(1)=Boletos para eventos; Bt(0); GR=09; -Bt(1)"},
+    {"frmLsSustentos", "sri_sustentos", &N::SustentoTributario,
+     "Tx(0)=14; Bt(0); GR=05; Tx(1)=Liquidación de viajes; Bt(0); GR=09; -Bt(1)"},
+    {"frmLsTipoCli", "mtipclie", &N::TipoClientes,
+     "Tx(0)=Mayorista; Bt(0); GR=Preferencial; Tx(0)=Preferencial oro; Bt(0); GR=Ocasional; -Bt(1)"},
+    // A place renamed (Bt(5)): this tenant's customers of the zone follow it.
+    {"frmLsZona", "mzonaclie mzonalugar mcliente", &N::ZonaClientes,
+     "Tx(0)=Galápagos; Bt(0); GR=Valles; Tx(0)=Valles orientales; Bt(0); GR=Quito Norte; GR2=Carcelén; "
+     "Tx(2)=Carcelén Bajo; Bt(5); GR2=El Condado; -Bt(4); GR=Temporal; -Bt(1)"},
+    {"frmLsContratos", "lscontratos", &N::Contratos,
+     "Text1=CT-2025-020 Limpieza de oficinas; Bt(0); GR=CT-2025-011 Servicio de seguridad; "
+     "Text1=CT-2025-011 Servicio de seguridad y monitoreo; Bt(0); GR=CT-2024-001 Mantenimiento de equipos; -Bt(1)"},
+    {"frmLsCuentas", "lscuentas", &N::Cuentas,
+     "Text1=1.1.01.03 Fondo rotativo; Bt(0); GR=1.1.01.02 Caja chica; Text1=1.1.01.02 Caja chica matriz; Bt(0); "
+     "GR=5.2.01.05 Gastos de movilización; -Bt(1)"},
+    {"frmLsPaises", "lspaises", &N::Paises,
+     "Text1=Uruguay; Bt(0); GR=Alemania; Text1=Alemania Federal; Bt(0); GR=Chile; -Bt(1)"},
+    {"frmLsBancos", "lsbancos", &N::Bancos,
+     "Text1=Banco Capital; Bt(0); GR=Banco del Austro; Text1=Banco Austro; Bt(0); GR=Cooperativa JEP; -Bt(1)"},
+    // The rename reaches this tenant's branches of the company.
+    {"frmEmpresas", "empresas sucursales", &N::Empresas,
+     "Tx(0)=Nueva Empresa Uno; Tx(2)=Av. Central 1; Tx(3)=022222222; Tx(4)=Quito; Tx(5)=Pichincha; Bt(0); "
+     "GR=Farmacia Santa Lucía; Tx(0)=Farmacia Santa Lucía Cía. Ltda.; Bt(0); GR=Inversiones del Valle; -Bt(1)"},
+    {"frmSucursales", "sucursales", &N::Sucursales,
+     "Tx(0)=Quito; Tx(1)=Sucursal Norte; Tx(2)=Av. de la Prensa N50; Tx(3)=022999888; Bt(0); "
+     "GR/1=Sucursal Cuenca; Tx(1)=Sucursal Cuenca Centro; Bt(0); GR/1=El Ejido; -Bt(1)"},
+    // IT-100 is in review: the status that may be removed.
+    {"frmSubProveedor", "subproveedor", [](N& n, auto& id, auto& db) { return n.SubProveedores(id, 1, db); },
+     "Tx(0)=SP-004; Tx(1)=0990011223001; Tx(2)=Farmacéutica Nueva; Tx(3)=Av. Olmedo 100, Guayaquil; Bt(0); "
+     "GR=SP-002; Tx(2)=María Fernanda Zambrano de Vera; Bt(0); GR=IT-100; -Bt(1)"},
+    // The second date picks the demo's row that is removed.
+    {"frmListaFechasIVA", "fechaivadif",
+     [](N& n, auto& id, auto& db) {
+         n.ListaFechasIVA(id, db);
+         return true;
+     },
+     "DT=06-15; Bt(0); DT=10-09; -Bt(2)"},
+};
 
 // Every row of the tenant, every cell quoted by the server (BLOBs as hex).
 QStringList foto(QSqlDatabase& db, const QString& tabla, const QString& id)
 {
     QStringList celdas, orden;
-    for (const QString& c : filas(db, sqlColumnas, {tabla})) {
+    for (const QString& c : filas(db, u"SELECT COLUMN_NAME, DATA_TYPE FROM information_schema.COLUMNS WHERE "
+                                      "TABLE_SCHEMA=DATABASE() AND TABLE_NAME=? ORDER BY ORDINAL_POSITION"_s, {tabla})) {
         const QStringList p = c.split(u'|');
         orden << u'`' + p[0] + u'`';
         celdas << (p[1].endsWith(u"blob"_s) ? u"QUOTE(HEX(%1))"_s : u"QUOTE(%1)"_s).arg(orden.last());
@@ -174,21 +152,17 @@ private Q_SLOTS:
                         "('1','Inversiones del Valle','Av. Ilaló','022860000','Sangolquí','Pichincha',1)"_s);
         // Tenant '2' gets a twin of every row of tenant '1' (codes per tenant
         // kept, where tenant '2' already holds the code its own row stays).
-        for (const QString& t : filas(db, u"SELECT TABLE_NAME FROM information_schema.COLUMNS WHERE "
-                                          "TABLE_SCHEMA=DATABASE() AND LOWER(COLUMN_NAME)='id'"_s)) {
-            QStringList columnas, valores;
-            for (const QString& c : filas(db, sqlColumnas, {t})) {
-                const QStringList p = c.split(u'|');
-                if (p[2].contains(u"auto_increment"_s, Qt::CaseInsensitive))
-                    continue;
-                columnas << u'`' + p[0] + u'`';
-                valores << (p[0].compare(u"id"_s, Qt::CaseInsensitive) == 0 ? u"'2'"_s : columnas.last());
-            }
-            ejecutarSql(db, u"INSERT IGNORE INTO `%1` (%2) SELECT %3 FROM `%1` WHERE id='1'"_s.arg(t, columnas.join(u','),
-                                                                                                 valores.join(u',')));
-            antes2.insert(t, foto(db, t, u"2"_s));
-            QVERIFY2(!antes2[t].isEmpty(), qPrintable(t));
-            filas2 += antes2[t].size();
+        const QString gemelos =
+            u"SELECT TABLE_NAME, GROUP_CONCAT('`',COLUMN_NAME,'`' ORDER BY ORDINAL_POSITION), "
+            "GROUP_CONCAT(IF(COLUMN_NAME='id','''2''',CONCAT('`',COLUMN_NAME,'`')) ORDER BY ORDINAL_POSITION) "
+            "FROM information_schema.COLUMNS WHERE TABLE_SCHEMA=DATABASE() AND EXTRA NOT LIKE '%auto_increment%' "
+            "GROUP BY TABLE_NAME HAVING SUM(COLUMN_NAME='id')"_s;
+        for (const QString& f : filas(db, gemelos)) {
+            const QStringList t = f.split(u'|');
+            ejecutarSql(db, u"INSERT IGNORE INTO `%1` (%2) SELECT %3 FROM `%1` WHERE id='1'"_s.arg(t[0], t[1], t[2]));
+            antes2.insert(t[0], foto(db, t[0], u"2"_s));
+            QVERIFY2(!antes2[t[0]].isEmpty(), qPrintable(t[0]));
+            filas2 += antes2[t[0]].size();
         }
         QCOMPARE(valor(db, u"SELECT COUNT(*) FROM mCatClie a JOIN mCatClie b ON a.cod=b.cod AND a.id='1' AND b.id='2'"_s).toInt(), 7);
     }
@@ -198,21 +172,21 @@ private Q_SLOTS:
     void cada_dialogo_data()
     {
         QTest::addColumn<int>("caso");
-        for (int i = 0; i < casos().size(); ++i)
-            QTest::newRow(casos()[i].forma) << i;
+        for (int i = 0; i < casos.size(); ++i)
+            QTest::newRow(casos[i].forma) << i;
     }
 
     void cada_dialogo()
     {
         QFETCH(int, caso);
-        const Caso& c = casos().at(caso);
+        const Caso& c = casos.at(caso);
         const QStringList tablas = QString::fromUtf8(c.tablas).split(u' ');
         QList<QStringList> antes1;
         for (const QString& t : tablas)
             antes1 << foto(db, t, u"1"_s);
         Cajas cajas;
         alAbrir(QString::fromUtf8(c.forma), [&](QWidget* d) { seguir(d, cajas, c.pasos); });
-        const bool hubo = c.abrir(nomencla, db);
+        const bool hubo = c.abrir(nomencla, u"1"_s, db);
         if (QTest::currentTestFailed())
             return;
         QVERIFY(hubo);
