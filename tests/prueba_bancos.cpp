@@ -1,6 +1,8 @@
 // Banks: the two layouts, the commissions, picks, duplicates and removals,
 // driven through the controls as a clerk would.
-#include "tests/codificadas_comun.h"
+#include "tests/prueba_estructura.h"
+
+#include "core/Controles.h"
 
 #include <nomencla/clsNomencla.h>
 

@@ -1,6 +1,7 @@
 #pragma once
-// What the tests of the company structure share: picking a row of the grid
-// by a double click, as the user does, and finding a row by a cell's text.
+// What the dialog tests share: the boxes Tx(i), typing into a control,
+// finding a row by a cell's text and picking it by a double click, as the
+// user does.
 #include "tests/support/Prueba.h"
 
 #include "core/Alfarje.h"
@@ -9,10 +10,23 @@
 
 namespace prueba {
 
-// The dialog's text box Tx(i).
+// The dialog's one-line box Tx(i).
 inline QLineEdit* tx(QWidget* d, int i)
 {
     return control<QLineEdit>(d, QStringLiteral("Tx(%1)").arg(i));
+}
+
+// The text of a box of one line or several.
+inline QString textoDe(QWidget* d, const QString& nombre)
+{
+    return control<QWidget>(d, nombre)->property("text").toString();
+}
+
+inline void escribir(QWidget* d, const QString& nombre, const QString& texto)
+{
+    QWidget* w = control<QWidget>(d, nombre);
+    w->setFocus();
+    teclear(w, texto);
 }
 
 inline int filaCon(nomencla::Alfarje* gr, const QString& texto, int columna = 0)

@@ -1,6 +1,6 @@
 // The coded lists (categories, positions, SRI documents and supports),
 // driven through their controls as a clerk would, the rows checked after.
-#include "tests/codificadas_comun.h"
+#include "tests/prueba_estructura.h"
 
 #include <nomencla/clsNomencla.h>
 
@@ -54,7 +54,7 @@ private Q_SLOTS:
         Cajas cajas;
         alAbrir(u"frmLsCategorias"_s, [&](QWidget* d) {
             auto* gr = control<Alfarje>(d, u"GR"_s);
-            auto* tx0 = caja(d, 0);
+            auto* tx0 = tx(d, 0);
             escribir(d, u"Tx(0)"_s, u"AB"_s);
             escribir(d, u"Tx(1)"_s, u"desc"_s);
             pulsar(d, u"Bt(0)"_s);

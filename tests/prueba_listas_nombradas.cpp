@@ -1,5 +1,5 @@
 // Contracts, accounts and countries, driven through their controls as a clerk would.
-#include "tests/codificadas_comun.h"
+#include "tests/prueba_estructura.h"
 
 #include <nomencla/clsNomencla.h>
 

@@ -1,5 +1,7 @@
 // Customer types: the coded list with three filtered numeric boxes.
-#include "tests/codificadas_comun.h"
+#include "tests/prueba_estructura.h"
+
+#include "core/Controles.h"
 
 #include <nomencla/clsNomencla.h>
 
@@ -36,15 +38,15 @@ private Q_SLOTS:
         QStringList elegida;
         alAbrir(u"frmLsTipoCli"_s, [&](QWidget* d) {
             auto* gr = control<Alfarje>(d, u"GR"_s);
-            teclear(caja(d, 2), u"15a.00,"_s);
-            teclear(caja(d, 3), u"1234567"_s);
-            teclear(caja(d, 4), u"12,555"_s);
-            QCOMPARE(caja(d, 4)->text(), u"12.55"_s);
-            caja(d, 4)->clear();
-            teclear(caja(d, 4), u"12,5"_s);
-            teclear(caja(d, 0), u"Mayorista"_s);
+            teclear(tx(d, 2), u"15a.00,"_s);
+            teclear(tx(d, 3), u"1234567"_s);
+            teclear(tx(d, 4), u"12,555"_s);
+            QCOMPARE(tx(d, 4)->text(), u"12.55"_s);
+            tx(d, 4)->clear();
+            teclear(tx(d, 4), u"12,5"_s);
+            teclear(tx(d, 0), u"Mayorista"_s);
             pulsar(d, u"Bt(0)"_s);
-            teclear(caja(d, 0), u"Contado"_s);
+            teclear(tx(d, 0), u"Contado"_s);
             pulsar(d, u"Bt(0)"_s);
 
             dobleClic(gr, 0);
@@ -52,9 +54,9 @@ private Q_SLOTS:
             QCOMPARE(cajas.ultima(), u"No se puede quitar el tipo ''Contado'' debido a que se encuentra asignado a uno o mas clientes!"_s);
 
             dobleClic(gr, 1);
-            elegida << caja(d, 0)->text() << caja(d, 2)->text() << caja(d, 3)->text() << caja(d, 4)->text();
-            caja(d, 4)->clear();
-            teclear(caja(d, 4), u"7,25"_s);
+            elegida << tx(d, 0)->text() << tx(d, 2)->text() << tx(d, 3)->text() << tx(d, 4)->text();
+            tx(d, 4)->clear();
+            teclear(tx(d, 4), u"7,25"_s);
             pulsar(d, u"Bt(0)"_s);
             dobleClic(gr, 1);
             cajas.responder(QMessageBox::Yes);

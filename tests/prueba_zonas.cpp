@@ -1,6 +1,6 @@
 // Zones and places: what the dialog does with places that the maintenance
 // tests of every dialog don't see, with the rows checked afterwards.
-#include "tests/codificadas_comun.h"
+#include "tests/prueba_estructura.h"
 
 #include <nomencla/clsNomencla.h>
 
@@ -15,8 +15,8 @@ namespace {
 // A place added with the ordinal already in its box.
 void lugar(QWidget* d, const QString& nombre)
 {
-    caja(d, 2)->insert(nombre); // keys carry Latin letters only
-    tecla(caja(d, 3), Qt::Key_Return);
+    tx(d, 2)->insert(nombre); // keys carry Latin letters only
+    tecla(tx(d, 3), Qt::Key_Return);
 }
 
 // A click on a row of the places: the grid takes the focus and picks it.
@@ -68,13 +68,13 @@ private Q_SLOTS:
             QCOMPARE(gr2->RowCount(), 2); // Norte's own
             pulsar(d, u"Bt(2)"_s);
 
-            teclear(caja(d, 0), u"Valles"_s);
-            caja(d, 2)->setFocus();
-            teclear(caja(d, 2), u"Xumbaco"_s);
-            tecla(caja(d, 2), Qt::Key_Return);
-            QCOMPARE(QApplication::focusWidget(), caja(d, 3));
-            tecla(caja(d, 3), Qt::Key_Return);
-            QCOMPARE(QApplication::focusWidget(), caja(d, 2));
+            teclear(tx(d, 0), u"Valles"_s);
+            tx(d, 2)->setFocus();
+            teclear(tx(d, 2), u"Xumbaco"_s);
+            tecla(tx(d, 2), Qt::Key_Return);
+            QCOMPARE(QApplication::focusWidget(), tx(d, 3));
+            tecla(tx(d, 3), Qt::Key_Return);
+            QCOMPARE(QApplication::focusWidget(), tx(d, 2));
 
             lugar(d, u"Cumbayá"_s);
             lugar(d, u"Pifo"_s);
@@ -104,10 +104,10 @@ private Q_SLOTS:
         alAbrir(u"frmLsZona"_s, [&](QWidget* d) {
             auto* gr = control<Alfarje>(d, u"GR"_s);
             dobleClic(gr, 0);
-            caja(d, 3)->setText(u"7"_s);
-            caja(d, 2)->setFocus();
-            teclear(caja(d, 2), u"Cotocollao Bajo"_s);
-            tecla(caja(d, 3), Qt::Key_Return);
+            tx(d, 3)->setText(u"7"_s);
+            tx(d, 2)->setFocus();
+            teclear(tx(d, 2), u"Cotocollao Bajo"_s);
+            tecla(tx(d, 3), Qt::Key_Return);
             QCOMPARE(control<Alfarje>(d, u"GR2"_s)->CellText(2, 1),
                      valor(db, u"SELECT cod FROM mZonaLugar WHERE lug='Cotocollao Bajo'"_s).toString());
 
@@ -118,8 +118,8 @@ private Q_SLOTS:
 
             // Picked Cotocollao, then the search moved the selection.
             elegirLugar(d, 1);
-            caja(d, 2)->setFocus();
-            caja(d, 2)->setText(u"Cotocollao B"_s);
+            tx(d, 2)->setFocus();
+            tx(d, 2)->setText(u"Cotocollao B"_s);
             cajas.responder(QMessageBox::Yes);
             pulsar(d, u"Bt(4)"_s);
             QCOMPARE(cajas.vistas[cajas.vistas.size() - 2].texto,
