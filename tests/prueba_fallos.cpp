@@ -172,9 +172,6 @@ const QList<Caso>& casos()
          empresa, guardada,
          {u"1|Andina Matriz|1"_s, u"2|Comercial Tres|1"_s, u"5|Comercial Dos|1"_s, u"1|A|Comercial Tres"_s,
           u"1|B|Comercial Tres"_s, u"2|D|Comercial Dos"_s}},
-        {"zona: rellenar lugares, conexion matada", u"frmLsZona"_s, &clsNomencla::ZonaClientes, Matar, {},
-         [](QWidget*) {}, elegir(u"Norte"_s), false, zonas, {}, {},
-         [](QWidget* d) { return grilla(d, u"GR2"_s)->RowCount() == 2; }},
         {"zona: quitar, conexion matada", u"frmLsZona"_s, &clsNomencla::ZonaClientes, Matar, {},
          elegir(u"Este"_s), boton(1), true, zonas, quitada, cambiar(zonasAntes, {{2, u"1|4|Este|0"_s}})},
         {"zona nueva: lugares bloqueados tras la zona", u"frmLsZona"_s, &clsNomencla::ZonaClientes, Bloquear,
@@ -205,9 +202,6 @@ const QList<Caso>& casos()
          [](QWidget* d) { tx(d, 0)->setText(u"Minorista"_s); }, boton(0), false,
          {u"SELECT id,cod,cat,est FROM mCatClie ORDER BY id,cod"_s}, guardada,
          {u"1|1|Mayorista|1"_s, u"1|2|Minorista|1"_s, u"2|1|Mayorista|1"_s}},
-        {"banco: quitar, conexion matada", u"frmLsBancos"_s, &clsNomencla::Bancos, Matar, {},
-         elegir(u"Produbanco"_s), boton(1), true, {u"SELECT id,nom,est FROM lsBancos ORDER BY cod"_s}, {},
-         {u"1|Banco Pichincha|1"_s, u"1|Produbanco|0"_s, u"2|Produbanco|1"_s}},
     };
     // Each multi-statement save again, its connection killed while the second statement waits.
     for (qsizetype i = 0, n = l.size(); i < n; ++i) {
@@ -267,8 +261,6 @@ private Q_SLOTS:
                         "INSERT INTO mCliente (id,nom,zon,lug) VALUES ('1','A',1,'Carcelén'),('1','B',2,'Carcelén'),"
                         "('2','C',1,'Carcelén'),('1','D',2,'Solanda');\n"
                         "INSERT INTO mCatClie (id,cod,cat,des,est) VALUES ('1',1,'Mayorista','',1),('2',1,'Mayorista','',1);\n"
-                        "INSERT INTO lsBancos (id,nom,tar,cor,dife,est) VALUES ('1','Banco Pichincha',1,4.02,7.50,1),"
-                        "('1','Produbanco',0,0,0,1),('2','Produbanco',0,0,0,1);\n"
                         "SET SESSION innodb_lock_wait_timeout=1"_s);
         QSqlDatabase otra = otraConexion(db, u"otra"_s);
         const auto foto = [&] {
@@ -414,12 +406,8 @@ private Q_SLOTS:
             QSqlDatabase::removeDatabase(u"otra2"_s);
             fallo(d);
             arrancar();
-            {
-                QSqlDatabase mirar = QSqlDatabase::cloneDatabase(propia, u"mirar"_s);
-                QVERIFY(mirar.open());
-                entonces = filas(mirar, estructura);
-            }
-            QSqlDatabase::removeDatabase(u"mirar"_s);
+            QVERIFY(propia.open()); // the dialog's connection, given up by the failed reconnection
+            entonces = filas(propia, estructura);
             pulsar(d, u"Bt(0)"_s);
             QCOMPARE(cajas.ultima(), u"La información se ha guardado con éxito!"_s);
         });
