@@ -2,7 +2,6 @@
 // in-memory SQLite database.
 #include "core/Alfarje.h"
 #include "core/ModeloAlfarje.h"
-#include "core/Plegado.h"
 
 #include <QSignalSpy>
 #include <QSqlDatabase>
@@ -11,7 +10,6 @@
 
 using namespace Qt::StringLiterals;
 using nomencla::Alfarje;
-namespace plegado = nomencla::plegado;
 
 class PruebaAlfarje : public QObject {
     Q_OBJECT
@@ -24,7 +22,6 @@ class PruebaAlfarje : public QObject {
         QSqlQuery q(bd_);
         q.setForwardOnly(true);
         QVERIFY2(q.exec(sql), qPrintable(sql));
-        g.modelo()->vaciar();
         QVERIFY(g.modelo()->cargar(q, campos));
     }
 
@@ -48,73 +45,57 @@ private Q_SLOTS:
         for (int i = 0; i < nombres.size(); ++i)
             QVERIFY(q.exec(u"INSERT INTO ciu VALUES (%1, '%2', 'C%1')"_s.arg(i).arg(nombres[i])));
         QVERIFY(q.exec(u"CREATE TABLE lot (cod INTEGER, lot TEXT, can REAL, fec TEXT, est INTEGER)"_s));
-        QVERIFY(q.exec(u"INSERT INTO lot VALUES (1, 'L-01', 12.5, '2024-01-05', 1),"
-                       " (2, NULL, 500, NULL, 0), (3, 'L-03', 0.25, '2024-12-31', NULL)"_s));
+        QVERIFY(q.exec(u"INSERT INTO lot VALUES (1, 'L-01', 12.5, '2024-01-05', 1), (2, NULL, 500, NULL, NULL)"_s));
     }
 
     // Columns hidden by the format ("." or "xxxx.", a key) or past it keep
-    // their cells; a longer AddItem grows the model with a hidden column.
+    // their cells.
     void columnasOcultas()
     {
         Alfarje g;
         g.setFormatocolumnas(u"<FACTURA   |.|xxxx.|^SERV. ELEC."_s);
-        QVERIFY(g.isColumnHidden(1) && g.isColumnHidden(2));
+        g.AddItem(u"F-1\tC1\tk\tsi\textra"_s);
+        QVERIFY(g.isColumnHidden(1) && g.isColumnHidden(2) && g.isColumnHidden(4));
         QVERIFY(!g.isColumnHidden(3)); // a title that ends in a point is shown
-        ciudades(g);
-        QCOMPARE(g.CellText(4, 1), u"C4"_s);
-        QVERIFY(g.isColumnHidden(1));
-        g.AddItem(u"Zamora\tC99\textra"_s);
-        QVERIFY(g.isColumnHidden(2));
-        QCOMPARE(g.CellText(6, 2), u"extra"_s);
+        QCOMPARE(g.CellText(0, 4), u"extra"_s);
     }
 
-    // Numbers and dates keep their type; column formats change what is shown,
-    // never the stored value.
+    // Numbers, dates and Nulls keep their type; a column format changes what
+    // is shown, never the stored value.
     void cargaTipadaYFormatos()
     {
         Alfarje g;
         g.setFormatocolumnas(u">COD |<LOTE   |>CANTIDAD |<FECHA      |^E"_s);
         llenar(g, u"SELECT cod, lot, can, date(fec), est FROM lot ORDER BY cod"_s, {0, 1, 2, 3, 4});
-        QVERIFY(g.modelo()->esNulo(2, 4));
-        g.setColumnFormat(2, u"##0.00"_s);
+        QVERIFY(g.modelo()->esNulo(1, 4));
         g.setColumnFormat(3, u"ddd. dd-MMM-yyyy"_s);
-        g.setColumnKind(4, 3);
         auto* m = g.modelo();
-        QCOMPARE(m->data(m->index(0, 2)).toString(), u"12.50"_s);
-        QCOMPARE(g.CellText(0, 2), u"12.5"_s);
         const QLocale ec(QLocale::Spanish, QLocale::Ecuador);
         QCOMPARE(m->data(m->index(0, 3)).toString(), ec.toString(QDate(2024, 1, 5), u"ddd. dd-MMM-yyyy"_s));
         QCOMPARE(g.CellText(0, 3), u"2024-01-05"_s);
-        QCOMPARE(m->data(m->index(1, 4), Qt::CheckStateRole).toInt(), int(Qt::Unchecked));
         // A text that does not fit the integers turns the column into text.
         g.AddItem(u"4A\tL-04\t1"_s);
-        QCOMPARE(g.CellText(3, 0), u"4A"_s);
-        QCOMPARE(g.CellValue(2, 0), 3.0);
-        QCOMPARE(g.ColumnTotal(2), 513.75);
+        QCOMPARE(g.CellText(2, 0), u"4A"_s);
+        QCOMPARE(g.CellValue(1, 0), 2.0);
+        QCOMPARE(g.ColumnTotal(2), 513.5);
     }
 
     // The search relies on the rows being in the server's collation order,
     // also after rows are added out of order or removed.
     void busquedaMientrasSeEscribe()
     {
-        QVERIFY(plegado::comparar(u"Quito Sur", u"Quito-Sur") < 0); // blank < punctuation
-        QVERIFY(plegado::comparar(u"A-1", u"A1") < 0);              // punctuation < digit
         Alfarje g;
         ciudades(g);
         QCOMPARE(g.FindRow(u"cac"_s, 0, 5), 1);  // "cacha" comes first in the grid
         QCOMPARE(g.FindRow(u"CACE"_s, 0, 5), 2); // Cáceres, accent and case ignored
         QCOMPARE(g.FindRow(u"can"_s, 0, 5), 3);  // ñ weighs as n
-        QCOMPARE(g.FindRow(u"quito s"_s, 0, 5), 5);
-        QCOMPARE(g.FindRow(u"C5"_s, 1, 5), 5); // the hidden column too
+        QCOMPARE(g.FindRow(u"C5"_s, 1, 5), 5);   // the hidden column too
         // Mode 0: the whole text; case and trailing blanks ignored, accents not.
-        QCOMPARE(g.FindRow(u"QUITO SUR"_s, 0, 0), 5);
         QCOMPARE(g.FindRow(u"caceres"_s, 0, 0), -1);
         g.AddItem(u"Aguarico   "_s);
-        QCOMPARE(g.FindRow(u"aguarico"_s, 0, 0), 6);
-        QCOMPARE(g.FindRow(u"agu"_s, 0, 5), 6);
+        QCOMPARE(g.FindRow(u"AGUARICO"_s, 0, 0), 6);
         g.setRow(0);
         g.RemoveItem(); // Ambato
-        QCOMPARE(g.FindRow(u"am"_s, 0, 5), -1);
         QCOMPARE(g.FindRow(u"agu"_s, 0, 5), 5);
         // After emptying, AddItem alone builds the list.
         g.ClearRows();
@@ -123,49 +104,33 @@ private Q_SLOTS:
         QCOMPARE(g.FindRow(u"l"_s, 0, 5), 1);
     }
 
-    // Reads outside the grid give "" and 0; a removal leaves no row selected;
-    // a row chosen while repainting is stopped is selected when it resumes.
-    // RowChange once per change; no Click off the rows; End goes to the last
-    // row; letters never move the selection and a KeyPress slot may cancel them.
+    // A removal leaves no row selected; a row chosen while repainting is
+    // stopped is selected when it resumes; no Click off the rows; letters
+    // never move the selection, they belong to the dialog's search.
     void filasYSenales()
     {
         Alfarje g;
         ciudades(g);
-        QSignalSpy cambio(&g, &Alfarje::RowChange);
         QSignalSpy click(&g, &Alfarje::Click);
         QCOMPARE(g.CellText(0, 9), QString());
-        QCOMPARE(g.CellValue(-1, 1), 0.0);
         g.setRow(2);
-        g.setRow(2);
-        QCOMPARE(cambio.count(), 1);
         g.RemoveItem();
         QCOMPARE(g.CellText(2, 0), u"Cañar"_s);
         QCOMPARE(g.Row(), -1);
-        g.RemoveItem(); // nothing selected: nothing happens
-        QCOMPARE(g.RowCount(), 5);
         g.setRedraw(false);
-        g.AddItem(u"Zaruma\tC9"_s);
-        g.setRow(5);
+        g.setRow(4);
         g.setRedraw(true);
-        QCOMPARE(g.Row(), 5);
+        QCOMPARE(g.Row(), 4);
 
         g.resize(300, 400);
         g.show();
         QVERIFY(QTest::qWaitForWindowExposed(&g));
         QTest::mouseDClick(g.viewport(), Qt::LeftButton, {}, QPoint(5, g.viewport()->height() - 3));
         QCOMPARE(click.count(), 0);
-        QTest::keyClick(&g, Qt::Key_Home);
-        QTest::keyClick(&g, Qt::Key_End);
-        QCOMPARE(g.Row(), 5);
-        QTest::keyClick(&g, Qt::Key_A);
-        QCOMPARE(g.Row(), 5);
-        connect(&g, &Alfarje::KeyPress, this, [](int& k) {
-            if (k == u'x')
-                k = 0;
-        });
-        QKeyEvent x(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, u"x"_s);
-        QApplication::sendEvent(&g, &x);
-        QVERIFY(x.isAccepted());
+        QKeyEvent a(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, u"a"_s);
+        QApplication::sendEvent(&g, &a);
+        QVERIFY(!a.isAccepted());
+        QCOMPARE(g.Row(), 4);
     }
 };
 
