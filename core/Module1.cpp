@@ -48,8 +48,9 @@ namespace {
 // state is gone, and a late use shows up as what it is.
 thread_local Module1* estado = nullptr;
 
-// Destroys the state at the thread's exit, in the place of the thread-local
-// objects that its first use gives it.
+// Destroys the state at the thread's exit. It is created at the state's first
+// use, so it goes after every thread-local object created later (the
+// application object among them).
 struct Dueno {
     Dueno() = default;
     Dueno(const Dueno&) = delete;
