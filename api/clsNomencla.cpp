@@ -53,13 +53,19 @@ clsNomencla::clsNomencla() = default;
 
 clsNomencla::~clsNomencla()
 {
-    // Gives up the shared services; connections and dialogs stay.
-    M().Servicios.reset();
-    M().Grillas.reset();
+    // Gives up the shared services; connections and dialogs stay. A state
+    // already gone (a host's static object, destroyed after the thread's
+    // state) has nothing left to give up.
+    if (nomencla::Module1* estado = nomencla::estadoSiExiste()) {
+        estado->Servicios.reset();
+        estado->Grillas.reset();
+    }
 }
 
 clsNomencla& clsNomencla::aplicacion()
 {
+    // The shared state exists before the object, so it is destroyed after it.
+    M();
     static thread_local clsNomencla objeto;
     return objeto;
 }

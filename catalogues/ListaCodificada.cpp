@@ -146,9 +146,7 @@ void ListaCodificada::Disenar(QWidget* lienzo)
     }
     setTabOrder(anterior, GR);
 
-    // The search as the user types, on the raw text; it also runs for the
-    // dialog's own changes. No match selects nothing.
-    connect(Tx0_, &CajaTexto::Change, this, [this] { GR->setRow(GR->FindRow(Tx0_->text(), 0, 5, false)); });
+    buscarAlTeclear(Tx0_, GR);
     connect(GR, &Alfarje::Click, this, &ListaCodificada::MostrarRegistro);
     Tx0_->setFocus();
 }
@@ -286,15 +284,19 @@ void ListaCodificada::Nuevo()
 void ListaCodificada::MostrarRegistro()
 {
     // A pick needs a row with its key; anything else leaves the fields alone.
-    if (GR->Row() < 0)
+    const qint32 fila = GR->Row();
+    if (fila < 0)
         return;
-    const qint32 clave = GR->CellText(GR->Row(), d_.columnaClave).toInt();
+    const qint32 clave = GR->CellText(fila, d_.columnaClave).toInt();
     if (clave < 1)
         return;
     CodigoActual = clave;
-    ponerTexto(0, GR->CellText(GR->Row(), 0)); // moves GR.Row by the search
-    ponerTexto(1, GR->CellText(GR->Row(), 1));
-    MostrarExtra();
+    // Every field from the picked row, which stays selected.
+    sinBuscar([&] {
+        ponerTexto(0, GR->CellText(fila, 0));
+        ponerTexto(1, GR->CellText(fila, 1));
+        MostrarExtra(fila);
+    });
     Tx0_->setFocus();
     Bt_[1]->setEnabled(true);
     modo(false);

@@ -85,8 +85,8 @@ protected:
     virtual QVariantList valoresExtra() const { return {}; }
     // Nuevo, after Tx(0) and Tx(1) are emptied.
     virtual void NuevoExtra() {}
-    // MostrarRegistro, after Tx(1) is filled from the row.
-    virtual void MostrarExtra() {}
+    // MostrarRegistro, after Tx(1) is filled from the picked row `fila`.
+    virtual void MostrarExtra(qint32 /*fila*/) {}
     // Inside the save's transaction, after the insert or update.
     virtual void guardarExtra() {}
     virtual void despuesDeNuevo() {}

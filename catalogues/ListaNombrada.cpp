@@ -79,9 +79,8 @@ void ListaNombrada::Disenar(QWidget* lienzo)
     connect(Bt0, &QPushButton::clicked, this, [this] { Bt_Click(0); });
     connect(Bt1, &QPushButton::clicked, this, [this] { Bt_Click(1); });
     connect(GR, &Alfarje::Click, this, [this] { MostrarRegistro(); });
-    // The search as the user types, on the raw text; it moves the selection
-    // and leaves the picked record alone.
-    connect(Text1, &CajaTexto::Change, this, [this] { GR->setRow(GR->FindRow(Text1->text(), 0, 5, false)); });
+    // The search as the user types moves the selection and leaves the picked record alone.
+    buscarAlTeclear(Text1, GR);
     Text1->setFocus();
 }
 
@@ -170,8 +169,10 @@ void ListaNombrada::MostrarRegistro()
         return;
     CodigoActual = GR->CellText(fila, d_.columnaClave).toLongLong();
     nombreActual_ = GR->CellText(fila, 0);
-    mostrarCampos(fila);
-    Text1->setText(nombreActual_);
+    sinBuscar([&] {
+        mostrarCampos(fila);
+        Text1->setText(nombreActual_);
+    });
     Text1->setFocus();
     Bt1->setEnabled(CodigoActual > 0);
 }

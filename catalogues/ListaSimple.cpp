@@ -87,8 +87,7 @@ void ListaSimple::Disenar(QWidget* lienzo)
     connect(agregar, &QPushButton::clicked, this, [this] { Bt_Click(0); });
     connect(nuevo, &QPushButton::clicked, this, [this] { Bt_Click(1); });
     connect(quitar, &QPushButton::clicked, this, [this] { Bt_Click(2); });
-    // The search as the user types, on the raw text; no match selects nothing.
-    connect(Text1, &CajaTexto::Change, this, [this] { GR->setRow(GR->FindRow(Text1->text(), 0, 5, false)); });
+    buscarAlTeclear(Text1, GR);
     connect(Text1, &CajaTexto::KeyPress, this, [this](int& KeyAscii) {
         if (KeyAscii == vbKeyReturn && d_.enterGuarda)
             Bt_Click(0);

@@ -103,11 +103,11 @@ void frmLsTipoCli::NuevoExtra()
         ponerTexto(i, QString());
 }
 
-void frmLsTipoCli::MostrarExtra()
+void frmLsTipoCli::MostrarExtra(qint32 fila)
 {
     // The stored figure in its plain form (1500, 30, 12.5), as one would type it.
     for (int i = 2; i <= 4; ++i)
-        ponerTexto(i, QString::number(clsServicios::Val(GR->CellText(GR->Row(), i)), 'g', 15));
+        ponerTexto(i, QString::number(clsServicios::Val(GR->CellText(fila, i)), 'g', 15));
 }
 
 } // namespace nomencla

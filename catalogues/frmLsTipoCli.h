@@ -18,7 +18,7 @@ protected:
     void DisenarExtra(QWidget* lienzo, QGridLayout* campos, QBoxLayout* cuerpo) override;
     QVariantList valoresExtra() const override;
     void NuevoExtra() override;
-    void MostrarExtra() override;
+    void MostrarExtra(qint32 fila) override;
 };
 
 } // namespace nomencla

@@ -134,6 +134,7 @@ void frmLsZona::DisenarExtra(QWidget* lienzo, QGridLayout*, QBoxLayout* cuerpo)
 
     connect(Bt4_, &QPushButton::clicked, this, &frmLsZona::QuitarLugar);
     connect(Bt5_, &QPushButton::clicked, this, &frmLsZona::GuardarLugar);
+    buscarAlTeclear(Tx2_, GR2);
     connect(Tx2_, &CajaTexto::Change, this, &frmLsZona::Tx2_Change);
     connect(Tx2_, &CajaTexto::KeyPress, this, &frmLsZona::Tx2_KeyPress);
     connect(Tx3_, &CajaTexto::KeyPress, this, &frmLsZona::Tx3_KeyPress);
@@ -193,7 +194,6 @@ void frmLsZona::guardarExtra()
 
 void frmLsZona::Tx2_Change()
 {
-    GR2->setRow(GR2->FindRow(Tx2_->text(), 0, 5, false));
     if (Tx2_->text().trimmed().isEmpty())
         CodigoLugar = 0;
 }
@@ -226,13 +226,10 @@ void frmLsZona::GR2_RowChange()
     const qint32 fila = GR2->Row();
     if (fila < 0)
         return;
-    Tx2_->setText(GR2->CellText(fila, 0)); // the search may move the row
-    // Key and old name come from the same row, the one selected now.
-    const qint32 ahora = GR2->Row() < 0 ? fila : GR2->Row();
-    CodigoLugar = claveDe(GR2->CellText(ahora, 1));
-    if (ahora != fila)
-        Tx2_->setText(GR2->CellText(ahora, 0));
-    Tx2_->setTag(GR2->CellText(ahora, 0));
+    // Name, key and old name of the picked row, which stays selected.
+    sinBuscar([&] { Tx2_->setText(GR2->CellText(fila, 0)); });
+    CodigoLugar = claveDe(GR2->CellText(fila, 1));
+    Tx2_->setTag(GR2->CellText(fila, 0));
     GR2->setFocus();
 }
 

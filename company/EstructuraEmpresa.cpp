@@ -105,22 +105,6 @@ void EstructuraEmpresa::disponer(QWidget* lienzo, QVBoxLayout* raiz, QLayout* ca
         orden.first()->setFocus();
 }
 
-void EstructuraEmpresa::buscarAlTeclear(int indice, int columna)
-{
-    CajaTexto* caja = Tx.value(indice);
-    connect(caja, &CajaTexto::Change, this, [this, caja, columna] {
-        if (!mostrando_)
-            GR->setRow(GR->FindRow(caja->text(), columna, 5));
-    });
-}
-
-void EstructuraEmpresa::sinBuscar(const std::function<void()>& mostrar)
-{
-    mostrando_ = true;
-    mostrar();
-    mostrando_ = false;
-}
-
 void EstructuraEmpresa::Bt_Click(int Index)
 {
     switch (Index) {

@@ -61,11 +61,6 @@ protected:
     // then the list and the buttons; the first of `orden` has the focus.
     void disponer(QWidget* lienzo, QVBoxLayout* raiz, QLayout* campos, const QString& formato,
                   const QString& etiquetaLista, const QList<QWidget*>& orden);
-    // Typing in Tx(indice) selects the first row whose cell in `columna`
-    // begins with the text; no match selects nothing. A text put there by a
-    // pick doesn't search, so the picked row stays selected and in the fields.
-    void buscarAlTeclear(int indice, int columna);
-
     // The mode banner and Bt(1).
     void modoNuevo();
     void modoExistente(bool quitable);
@@ -91,12 +86,8 @@ protected:
     virtual void limpiarCampos();
     virtual void MostrarRegistro() = 0;
 
-    // Runs `mostrar` with the search of the boxes off.
-    void sinBuscar(const std::function<void()>& mostrar);
-
 private:
     const DatosEstructura d_;
-    bool mostrando_ = false;
     void Bt_Click(int Index);
 };
 

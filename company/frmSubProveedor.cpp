@@ -62,7 +62,7 @@ void frmSubProveedor::Disenar(QWidget* lienzo)
     disponer(lienzo, raiz, campos,
              u"<CODIGO   |<NUMERO RUC |<RAZON SOCIAL                                 |<DIRECCIÓN                  |."_s,
              u"&Lista de subproveedores registradas"_s, {tx1, tx0, tx2, tx3});
-    buscarAlTeclear(1, 1);
+    buscarAlTeclear(Tx[1], GR, 1);
 }
 
 void frmSubProveedor::Form_Load()

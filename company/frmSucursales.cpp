@@ -55,7 +55,7 @@ void frmSucursales::Disenar(QWidget* lienzo)
              u"< EMPRESA              |<NOMBRE SUCURSAL|<CIUDAD     |<DIRECCIÓN                                |.|.|."_s,
              u"&Lista de sucursales registradas"_s, {Cmb, tx0, tx1, tx2, tx3});
     // Typing an address looks for it among the cities, the list's order.
-    buscarAlTeclear(2, 2);
+    buscarAlTeclear(Tx[2], GR, 2);
 }
 
 void frmSucursales::Form_Load()

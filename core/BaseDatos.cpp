@@ -1,6 +1,7 @@
 #include "core/BaseDatos.h"
 
 #include <QSqlDriver>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -125,8 +126,15 @@ qint32 insertarConClaveSiguiente(QSqlDatabase& db, const QString& sqlMaximo, con
 {
     for (int intento = 1;; ++intento) {
         const QVariant maximo = consultarValor(db, sqlMaximo, valoresMaximo);
-        // Null (no row yet) counts as 0, so a tenant's first key is 1.
-        const qint32 clave = (maximo.isNull() ? 0 : maximo.toInt()) + 1;
+        // Null (no row yet) counts as 0, so a tenant's first key is 1. Past
+        // the largest key an INT holds there is no next one: nothing is written.
+        const qint64 ultima = maximo.isNull() ? 0 : maximo.toLongLong();
+        if (ultima >= std::numeric_limits<qint32>::max())
+            throw ErrorBD(QSqlError(u"No se puede dar un código al registro nuevo: el último ya es %1, el mayor que "
+                                    "admite la base de datos. No se guardó nada."_s.arg(ultima),
+                                    {}, QSqlError::StatementError),
+                          sqlMaximo, db);
+        const qint32 clave = qint32(ultima) + 1;
         try {
             insertar(clave);
             return clave;

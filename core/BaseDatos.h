@@ -71,6 +71,8 @@ private:
 // its filter), takes Null as 0, adds 1 and calls `insertar` with the key. A
 // duplicate-key failure (two clerks at once; the table has UNIQUE (id,cod))
 // is retried with a fresh maximum, up to `intentos` times. Returns the key.
+// When the maximum is already the largest INT there is no next key: ErrorBD,
+// with a message for the clerk, before `insertar` is called.
 qint32 insertarConClaveSiguiente(QSqlDatabase& db, const QString& sqlMaximo,
                                  const QVariantList& valoresMaximo,
                                  const std::function<void(qint32)>& insertar, int intentos = 20);

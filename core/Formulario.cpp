@@ -1,5 +1,6 @@
 #include "core/Formulario.h"
 
+#include "core/Alfarje.h"
 #include "core/BaseDatos.h"
 #include "core/Controles.h"
 #include "core/Mensajes.h"
@@ -9,6 +10,7 @@
 #include <QLayout>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <utility>
 
 namespace nomencla {
 
@@ -78,6 +80,26 @@ bool Formulario::operacion(const std::function<void()>& paso)
         mostrarErrorBD(this, error);
         return false;
     }
+}
+
+void Formulario::buscarAlTeclear(CajaTexto* caja, Alfarje* grilla, int columna)
+{
+    connect(caja, &CajaTexto::Change, this, [this, caja, grilla, columna] {
+        if (!mostrando_)
+            grilla->setRow(grilla->FindRow(caja->text(), columna, 5, false));
+    });
+}
+
+void Formulario::sinBuscar(const std::function<void()>& mostrar)
+{
+    // Restored however `mostrar` ends; a pick inside a pick keeps it off.
+    const bool antes = std::exchange(mostrando_, true);
+    struct Restaurar {
+        bool& bandera;
+        bool valor;
+        ~Restaurar() { bandera = valor; }
+    } restaurar{mostrando_, antes};
+    mostrar();
 }
 
 void Formulario::Form_KeyPress(int& KeyAscii)

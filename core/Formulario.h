@@ -12,6 +12,8 @@
 
 namespace nomencla {
 
+class Alfarje;
+class CajaTexto;
 class ErrorBD;
 
 class Formulario : public QDialog {
@@ -48,6 +50,15 @@ protected:
 
     QWidget* lienzo() const { return lienzo_; }
 
+    // The search as the user types: each change of `caja` selects in `grilla`
+    // the first row whose cell in `columna` begins with the raw text, in the
+    // collation's order; no match selects nothing.
+    void buscarAlTeclear(CajaTexto* caja, Alfarje* grilla, int columna = 0);
+    // Runs `mostrar` (a pick filling the fields from a row) with those searches
+    // off: the fields take the picked row's own cells, and the grid stays on it
+    // though another row's text begins alike ("Medico" and "Médico").
+    void sinBuscar(const std::function<void()>& mostrar);
+
     // A named child control of the current load: "Bt(0)", "Tx(2)"...
     template <class T> T* ctl(const QString& nombre) const
     {
@@ -65,6 +76,7 @@ private:
     bool cerrarPedido_ = false;
     bool activado_ = false;
     bool enEjecucion_ = false;
+    bool mostrando_ = false;
     void vigilarTeclas(QWidget* raiz);
 };
 

@@ -41,9 +41,40 @@ clsServicios& Module1::serviciosApp()
     return *ServiciosApp;
 }
 
+namespace {
+
+// The state lives on the heap: a pointer that needs no construction nor
+// destruction can be read at any moment of the thread's life, also after the
+// state is gone, and a late use shows up as what it is.
+thread_local Module1* estado = nullptr;
+
+// Destroys the state at the thread's exit. It is created at the state's first
+// use, so it goes after every thread-local object created later (the
+// application object among them).
+struct Dueno {
+    Dueno() = default;
+    Dueno(const Dueno&) = delete;
+    Dueno& operator=(const Dueno&) = delete;
+    ~Dueno()
+    {
+        delete estado; // the dialogs closing inside still find their state
+        estado = nullptr;
+    }
+};
+
+} // namespace
+
 Module1& M()
 {
-    static thread_local Module1 estado;
+    if (estado == nullptr) {
+        static thread_local Dueno dueno;
+        estado = new Module1;
+    }
+    return *estado;
+}
+
+Module1* estadoSiExiste()
+{
     return estado;
 }
 

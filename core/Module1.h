@@ -64,7 +64,14 @@ private:
     std::unordered_map<std::type_index, QPointer<Formulario>> dialogos_;
 };
 
-// This thread's shared state.
+// This thread's shared state, created at first use. It is destroyed at the
+// thread's exit after every thread-local object created after that first use
+// (thread-local objects go in the reverse order of their creation).
 Module1& M();
+
+// This thread's shared state if it exists: nullptr before its first use and
+// once it is destroyed. For destructors that may run after it (a host's
+// static clsNomencla, the application object at thread exit).
+Module1* estadoSiExiste();
 
 } // namespace nomencla

@@ -3,9 +3,11 @@
 #include "core/Alfarje.h"
 #include "core/BaseDatos.h"
 #include "core/Controles.h"
+#include "core/Mensajes.h"
 #include "core/Module1.h"
 
 #include <QVBoxLayout>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -51,7 +53,27 @@ void frmPendientes::Elegir()
 {
     // An empty list (no row selected) gives 0, like Esc.
     const qint32 fila = GR->Row();
-    M().ValorDocumento = fila >= 0 ? qint32(GR->CellValue(fila, 0)) : 0;
+    if (fila < 0) {
+        M().ValorDocumento = 0;
+        Unload();
+        return;
+    }
+    // The second store may hold any key: one that isn't a whole number of 32
+    // bits is not handed back cut or rounded; the clerk is told and the list stays.
+    const QString texto = GR->CellText(fila, 0);
+    bool entero = false;
+    const qint64 clave = texto.toLongLong(&entero);
+    if (!entero || clave < std::numeric_limits<qint32>::min() || clave > std::numeric_limits<qint32>::max()) {
+        const QString numero = GR->CellText(fila, 1);
+        const QString documento = numero.isEmpty() ? u"Este comprobante"_s : u"El comprobante "_s + numero;
+        const QString motivo = texto.isEmpty() ? u"no tiene código de referencia."_s
+                                               : u"su código de referencia (%1) no es un número entero entre "
+                                                 "-2147483648 y 2147483647."_s.arg(texto);
+        MsgBox(this, documento + u" no se puede elegir: "_s + motivo, estilo::Exclamacion, u"Aviso"_s);
+        GR->setFocus();
+        return;
+    }
+    M().ValorDocumento = qint32(clave);
     Unload();
 }
 

@@ -100,6 +100,44 @@ private Q_SLOTS:
         }
     }
 
+    // A pending document whose key is not a whole 32-bit number is listed,
+    // and choosing it says so and leaves the list open; the largest and
+    // smallest keys that fit are handed back.
+    void pendiente_fuera_de_rango()
+    {
+        const struct { QString cod; bool cabe; } casos[] = {
+            {u"2147483647"_s, true}, {u"-2147483648"_s, true}, {u"2147483648"_s, false},
+            {u"-2147483649"_s, false}, {u"9223372036854775807"_s, false}, {u"12.5"_s, false}, {u"NULL"_s, false}};
+        for (const auto& c : casos) {
+            ejecutarSql(acces, u"DELETE FROM BkUpfac WHERE id='9';\n"
+                               "INSERT INTO BkUpfac (id,cod,numdoc,tip) VALUES ('9',%1,'001-001-000000007',1)"_s.arg(c.cod));
+            Cajas cajas;
+            QString listado;
+            bool abierta = false;
+            alAbrir(u"frmPendientes"_s, [&](QWidget* d) {
+                auto* gr = control<Alfarje>(d, u"GR"_s);
+                listado = gr->CellText(0, 0) + u'|' + gr->CellText(0, 1);
+                tecla(gr, Qt::Key_Return);
+                abierta = d->isVisible();
+                if (abierta)
+                    tecla(gr, Qt::Key_Escape);
+            });
+            const qint32 r = nomencla.FacturasPendientes(u"9"_s, QString(), db, acces);
+            const QString motivo = c.cod == u"NULL"_s
+                ? u"no tiene código de referencia."_s
+                : u"su código de referencia (%1) no es un número entero entre -2147483648 y 2147483647."_s.arg(c.cod);
+            QCOMPARE(listado, (c.cod == u"NULL"_s ? QString() : c.cod) + u"|001-001-000000007"_s);
+            QCOMPARE(abierta, !c.cabe);
+            QCOMPARE(r, c.cabe ? qint32(c.cod.toLongLong()) : 0);
+            QCOMPARE(cajas.vistas.size(), c.cabe ? 0 : 1);
+            if (!c.cabe) {
+                QCOMPARE(cajas.vistas[0].icono, QMessageBox::Warning);
+                QCOMPARE(cajas.vistas[0].texto, u"El comprobante 001-001-000000007 no se puede elegir: "_s + motivo);
+            }
+        }
+        ejecutarSql(acces, u"DELETE FROM BkUpfac WHERE id='9'"_s);
+    }
+
     // Sales take the company of the last call; before any, the empty key.
     void pendientes_de_ventas()
     {

@@ -1,0 +1,1 @@
+nomencla_prueba(prueba_eleccion prueba_eleccion.cpp prueba_estructura.h)
