@@ -9,7 +9,7 @@ if(NOMENCLA_SANITIZER_TEST)
     ${PROJECT_SOURCE_DIR}/core/Module1.cpp
     ${PROJECT_SOURCE_DIR}/core/clsServicios.cpp
     ${PROJECT_SOURCE_DIR}/core/clsGrillas.cpp
-    ${PROJECT_SOURCE_DIR}/core/clsNomencla.cpp
+    ${PROJECT_SOURCE_DIR}/api/clsNomencla.cpp
     $<TARGET_OBJECTS:nomencla_grid>
     $<TARGET_OBJECTS:nomencla_toolkit>
     $<TARGET_OBJECTS:nomencla_catalogues>
