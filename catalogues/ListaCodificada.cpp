@@ -48,6 +48,17 @@ void ListaCodificada::ponerTexto(int indice, const QString& texto)
         caja->setProperty("text", texto);
 }
 
+void ListaCodificada::mostrarValor(int indice, const QVariant& almacenado)
+{
+    mostrados_[indice].mostrar(texto(indice), almacenado);
+}
+
+QVariant ListaCodificada::valorDe(int indice, const QVariant& nuevo) const
+{
+    const auto m = mostrados_.constFind(indice);
+    return CodigoActual > 0 && m != mostrados_.cend() ? m->valor(texto(indice), nuevo) : nuevo;
+}
+
 void ListaCodificada::Disenar(QWidget* lienzo)
 {
     auto* cuerpo = new QVBoxLayout(lienzo);
@@ -158,6 +169,7 @@ void ListaCodificada::DisenarExtra(QWidget*, QGridLayout*, QBoxLayout*) {}
 void ListaCodificada::Form_Load()
 {
     CodigoActual = 0;
+    mostrados_.clear();
     operacion([this] { CargarLista(); });
     M().HuboCambios = false;
 }
@@ -181,7 +193,7 @@ void ListaCodificada::Bt_Click(int Index)
 
 QVariantList ListaCodificada::valores() const
 {
-    QVariantList v{texto(0).trimmed(), texto(1).trimmed(), qint64(CodigoActual)};
+    QVariantList v{valorDe(0, texto(0).trimmed()), valorDe(1, texto(1).trimmed()), qint64(CodigoActual)};
     v.append(valoresExtra());
     return v;
 }
@@ -274,6 +286,7 @@ void ListaCodificada::Quitar()
 void ListaCodificada::Nuevo()
 {
     CodigoActual = 0;
+    mostrados_.clear();
     ponerTexto(0, QString());
     ponerTexto(1, QString());
     NuevoExtra();
@@ -294,6 +307,9 @@ void ListaCodificada::MostrarRegistro()
     CodigoActual = clave;
     ponerTexto(0, GR->CellText(GR->Row(), 0)); // moves GR.Row by the search
     ponerTexto(1, GR->CellText(GR->Row(), 1));
+    // The texts shown are the stored ones, whole.
+    mostrarValor(0, texto(0));
+    mostrarValor(1, texto(1));
     MostrarExtra();
     Tx0_->setFocus();
     Bt_[1]->setEnabled(true);

@@ -210,9 +210,14 @@ bool frmEmpresas::Escribir()
     QSqlDatabase& db = M().Conexion;
     const QString& idEmp = M().IdEmp;
     const qint64 sucursales = qint64(T(1).toDouble());
-    const qint64 actividad = Combo4->ListIndex();
-    const qint64 servicios = Check1[0]->Value();
-    const qint64 artesano = Check1[1]->Value();
+    QVariant actividad = qint64(Combo4->ListIndex());
+    QVariant servicios = qint64(Check1[0]->Value());
+    QVariant artesano = qint64(Check1[1]->Value());
+    if (CodigoActual > 0) {
+        actividad = actividad_.valor(actividad.toString(), actividad);
+        servicios = servicios_.valor(servicios.toString(), servicios);
+        artesano = artesano_.valor(artesano.toString(), artesano);
+    }
     qint32 CodigoNuevo = CodigoActual;
     logoFallido_ = false;
 
@@ -238,8 +243,9 @@ bool frmEmpresas::Escribir()
         ejecutar(db,
                  u"UPDATE empresas SET emp=?,suc=?, act=?, selec=?, art=?, dir=?,tel=?,ciu=?,prov=?, nart=? "
                  u"WHERE cod=? AND id=?"_s,
-                 {T(0), sucursales, actividad, servicios, artesano, T(2), T(3), T(4), T(5), T(6), CodigoActual, idEmp});
-        ejecutar(db, u"UPDATE sucursales SET emp=? WHERE id=? AND emp=?"_s, {T(0), idEmp, NombreAnterior});
+                 {valorTx(0), sucursales, actividad, servicios, artesano, valorTx(2), valorTx(3), valorTx(4),
+                  valorTx(5), valorTx(6), CodigoActual, idEmp});
+        ejecutar(db, u"UPDATE sucursales SET emp=? WHERE id=? AND emp=?"_s, {valorTx(0), idEmp, NombreAnterior});
         transaccion.confirmar();
     }
 
@@ -296,6 +302,9 @@ void frmEmpresas::MostrarRegistro()
         Tx[i]->setText(GR->CellText(fila, i + 5));
     Check1[0]->setValue(int(GR->CellValue(fila, 3)));
     Check1[1]->setValue(int(GR->CellValue(fila, 2)));
+    actividad_.mostrar(QString::number(Combo4->ListIndex()), qint64(GR->CellValue(fila, 5)));
+    servicios_.mostrar(QString::number(Check1[0]->Value()), qint64(GR->CellValue(fila, 3)));
+    artesano_.mostrar(QString::number(Check1[1]->Value()), qint64(GR->CellValue(fila, 2)));
     NombreAnterior = GR->CellText(fila, 0);
     // The stored logo is shown with its company, unless a file chosen for the
     // next save is waiting: that one stays in view.
