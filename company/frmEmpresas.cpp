@@ -245,7 +245,10 @@ bool frmEmpresas::Escribir()
                  u"WHERE cod=? AND id=?"_s,
                  {valorTx(0), sucursales, actividad, servicios, artesano, valorTx(2), valorTx(3), valorTx(4),
                   valorTx(5), valorTx(6), CodigoActual, idEmp});
-        ejecutar(db, u"UPDATE sucursales SET emp=? WHERE id=? AND emp=?"_s, {valorTx(0), idEmp, NombreAnterior});
+        // The branches follow a new name (those written as the old one in
+        // another case too); a name left as it was rewrites none of them.
+        if (valorTx(0).toString() != NombreAnterior)
+            ejecutar(db, u"UPDATE sucursales SET emp=? WHERE id=? AND emp=?"_s, {valorTx(0), idEmp, NombreAnterior});
         transaccion.confirmar();
     }
 

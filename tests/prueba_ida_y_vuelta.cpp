@@ -169,6 +169,7 @@ void llenar(QSqlDatabase& db)
              {{u"1"_s, u"Matriz 😀"_s, largo(u"c"_s), largo(u"Largo"_s), largo(u"d"_s), largo(u"t"_s), 1},
               {u"1"_s, u"Cerrada"_s, blancos, raro, lineas, u"0999"_s, 2},
               {u"1"_s, blancos, raro, blancos, u"d"_s, u""_s, 1},
+              {u"1"_s, u"MATRIZ 😀"_s, u"c"_s, u"Mayúsculas"_s, u"d"_s, u"t"_s, 1}, // its company in another case
               {u"2"_s, u"Otra S.A."_s, u"c"_s, u"n"_s, u"d"_s, u"t"_s, 1}});
     ejecutarSql(db, u"INSERT INTO mProveedor (cod,nom,ced) VALUES (7,'Proveedor','1790000000001')"_s);
     insertar(db, u"SubProveedor"_s, u"id,prov,cin,ruc,raz,dir,est"_s,
