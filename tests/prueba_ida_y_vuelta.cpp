@@ -15,6 +15,7 @@
 #include <QAbstractButton>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDateEdit>
 #include <QGuiApplication>
 
 using namespace Qt::StringLiterals;
@@ -381,6 +382,22 @@ private Q_SLOTS:
         QVERIFY(dlg.abrir(nomencla, db));
         QCOMPARE(diferencias(db, antes, fotografiar(db)), QStringList{dlg.tabla.toLower() + u'.' + c.columna});
         ++cuenta.campos;
+    }
+
+    // The VAT dates have no edit mode: a listed date added again is refused,
+    // and no date (the limits, the NULL, the other years) changes.
+    void fechas_iva()
+    {
+        const Fotos antes = fotografiar(db);
+        Cajas cajas;
+        alAbrir(u"frmListaFechasIVA"_s, [&](QWidget* d) {
+            QCOMPARE(control<nomencla::Alfarje>(d, u"GR"_s)->RowCount(), 2);
+            control<QDateEdit>(d, u"DT"_s)->setDate(QDate(QDate::currentDate().year(), 12, 31));
+            pulsar(d, u"Bt(0)"_s);
+            QCOMPARE(cajas.ultima(), u"La fecha que intenta guardar ya está registrada en la base de datos!"_s);
+        });
+        nomencla.ListaFechasIVA(u"1"_s, db);
+        QCOMPARE(diferencias(db, antes, fotografiar(db)), QStringList());
     }
 
     void cleanupTestCase()
