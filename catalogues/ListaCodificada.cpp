@@ -48,6 +48,17 @@ void ListaCodificada::ponerTexto(int indice, const QString& texto)
         caja->setProperty("text", texto);
 }
 
+void ListaCodificada::mostrarValor(int indice, const QVariant& almacenado)
+{
+    mostrados_[indice].mostrar(texto(indice), almacenado);
+}
+
+QVariant ListaCodificada::valorDe(int indice, const QVariant& nuevo) const
+{
+    const auto m = mostrados_.constFind(indice);
+    return CodigoActual > 0 && m != mostrados_.cend() ? m->valor(texto(indice), nuevo) : nuevo;
+}
+
 void ListaCodificada::Disenar(QWidget* lienzo)
 {
     auto* cuerpo = new QVBoxLayout(lienzo);
@@ -156,6 +167,7 @@ void ListaCodificada::DisenarExtra(QWidget*, QGridLayout*, QBoxLayout*) {}
 void ListaCodificada::Form_Load()
 {
     CodigoActual = 0;
+    mostrados_.clear();
     operacion([this] { CargarLista(); });
     M().HuboCambios = false;
 }
@@ -179,7 +191,7 @@ void ListaCodificada::Bt_Click(int Index)
 
 QVariantList ListaCodificada::valores() const
 {
-    QVariantList v{texto(0).trimmed(), texto(1).trimmed(), qint64(CodigoActual)};
+    QVariantList v{valorDe(0, texto(0).trimmed()), valorDe(1, texto(1).trimmed()), qint64(CodigoActual)};
     v.append(valoresExtra());
     return v;
 }
@@ -272,6 +284,7 @@ void ListaCodificada::Quitar()
 void ListaCodificada::Nuevo()
 {
     CodigoActual = 0;
+    mostrados_.clear();
     ponerTexto(0, QString());
     ponerTexto(1, QString());
     NuevoExtra();
@@ -291,10 +304,13 @@ void ListaCodificada::MostrarRegistro()
     if (clave < 1)
         return;
     CodigoActual = clave;
-    // Every field from the picked row, which stays selected.
+    // Every field from the picked row, which stays selected; the texts shown
+    // are the stored ones, whole.
     sinBuscar([&] {
         ponerTexto(0, GR->CellText(fila, 0));
         ponerTexto(1, GR->CellText(fila, 1));
+        mostrarValor(0, texto(0));
+        mostrarValor(1, texto(1));
         MostrarExtra(fila);
     });
     Tx0_->setFocus();

@@ -11,9 +11,11 @@
 // (emptying and filling them in the order of Nuevo and MostrarRegistro),
 // guardarExtra (more statements in the save's transaction) and the
 // despuesDe... hooks (what follows a pick, a save or Nuevo).
+#include "core/Controles.h"
 #include "core/Formulario.h"
 #include "core/Sentencia.h"
 
+#include <QHash>
 #include <QVariantList>
 
 class QBoxLayout;
@@ -95,6 +97,13 @@ protected:
 
     QString texto(int indice) const; // Tx(i).Text, raw
     void ponerTexto(int indice, const QString& texto);
+    // Tx(i) shows the picked record's `almacenado`: the record's save writes
+    // it as stored while the box reads as it does now. Tx(0) and Tx(1) are
+    // recorded by MostrarRegistro itself.
+    void mostrarValor(int indice, const QVariant& almacenado);
+    // What the statements get for Tx(i): the stored value of an unchanged box
+    // of the picked record, else `nuevo`, the value of what the box says.
+    QVariant valorDe(int indice, const QVariant& nuevo) const;
     QWidget* Tx(int indice) const;
     Alfarje* GR = nullptr;
     Etiqueta* Label2 = nullptr;
@@ -105,6 +114,7 @@ private:
     CajaTexto* Tx0_ = nullptr;
     QWidget* Tx1_ = nullptr; // one line or several, as the member says
     Pulsante* Bt_[4] = {};
+    QHash<int, ValorMostrado> mostrados_;
     QVariantList valores() const;
     void modo(bool nuevo);
 };

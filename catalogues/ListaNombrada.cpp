@@ -130,7 +130,8 @@ void ListaNombrada::Guardar()
         return;
     }
     const Sentencia& s = CodigoActual < 1 ? d_.insertar : d_.actualizar;
-    const QVariantList propios = valores(T);
+    // The picked record's name, left as shown, is written as stored.
+    const QVariantList propios = valores(CodigoActual > 0 && Text1->text() == nombreActual_ ? nombreActual_ : T);
     if (!operacion([&] {
             ejecutar(M().Conexion, s.sql, s.enlazar(M().IdEmp, propios));
             M().HuboCambios = true;

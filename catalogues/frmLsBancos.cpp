@@ -134,12 +134,22 @@ void frmLsBancos::mostrarCampos(int fila)
     Check1->setValue(clsServicios::Val(GR->CellText(fila, 1)) != 0 ? 1 : 0);
     Nm[0]->setText(GR->CellText(fila, 3));
     Nm[1]->setText(GR->CellText(fila, 4));
+    tarjeta_.mostrar(QString::number(Check1->Value()), qint64(GR->CellValue(fila, 1)));
+    for (int i = 0; i < 2; ++i)
+        comision_[i].mostrar(Nm[i]->text(), GR->CellValue(fila, 3 + i));
 }
 
 QVariantList frmLsBancos::valoresPropios() const
 {
-    // Read whether the commission boxes are in sight or not.
-    return {qint64(Check1->Value()), clsServicios::Val(Nm[0]->text()), clsServicios::Val(Nm[1]->text())};
+    // Read whether the commission boxes are in sight or not. The picked bank
+    // keeps what the clerk left as shown (a card flag stored as 2, say).
+    QVariantList v{qint64(Check1->Value()), clsServicios::Val(Nm[0]->text()), clsServicios::Val(Nm[1]->text())};
+    if (CodigoActual > 0) {
+        v[0] = tarjeta_.valor(QString::number(Check1->Value()), v[0]);
+        for (int i = 0; i < 2; ++i)
+            v[1 + i] = comision_[i].valor(Nm[i]->text(), v[1 + i]);
+    }
+    return v;
 }
 
 } // namespace nomencla

@@ -4,6 +4,7 @@
 // the form then grows and the list moves down. A removal only marks the bank
 // inactive.
 #include "catalogues/ListaNombrada.h"
+#include "core/Controles.h"
 
 namespace nomencla {
 
@@ -26,7 +27,8 @@ protected:
 private:
     Casilla* Check1 = nullptr;
     CajaTexto* Nm[2] = {nullptr, nullptr};
-    QWidget* comisiones_[6] = {}; // Label1(2), Nm(0), Label1(4), Label1(3), Nm(1), Label1(5)
+    QWidget* comisiones_[6] = {};
+    ValorMostrado tarjeta_, comision_[2]; // as the picked row stored them // Label1(2), Nm(0), Label1(4), Label1(3), Nm(1), Label1(5)
     void Check1_Click();
 };
 

@@ -94,7 +94,8 @@ void frmLsTipoCli::DisenarExtra(QWidget* lienzo, QGridLayout* campos, QBoxLayout
 
 QVariantList frmLsTipoCli::valoresExtra() const
 {
-    return {clsServicios::Val(texto(2)), clsServicios::Val(texto(3)), clsServicios::Val(texto(4))};
+    return {valorDe(2, clsServicios::Val(texto(2))), valorDe(3, clsServicios::Val(texto(3))),
+            valorDe(4, clsServicios::Val(texto(4)))};
 }
 
 void frmLsTipoCli::NuevoExtra()
@@ -106,8 +107,11 @@ void frmLsTipoCli::NuevoExtra()
 void frmLsTipoCli::MostrarExtra(qint32 fila)
 {
     // The stored figure in its plain form (1500, 30, 12.5), as one would type it.
-    for (int i = 2; i <= 4; ++i)
-        ponerTexto(i, QString::number(clsServicios::Val(GR->CellText(fila, i)), 'g', 15));
+    for (int i = 2; i <= 4; ++i) {
+        const double cifra = clsServicios::Val(GR->CellText(fila, i));
+        ponerTexto(i, QString::number(cifra, 'g', 15));
+        mostrarValor(i, cifra);
+    }
 }
 
 } // namespace nomencla

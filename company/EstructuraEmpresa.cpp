@@ -63,8 +63,13 @@ void EstructuraEmpresa::disponer(QWidget* lienzo, QVBoxLayout* raiz, QLayout* ca
     GR->setTotalslineshow(false);
     GR->setMinimumHeight(240);
     connect(GR, &Alfarje::Click, this, [this] {
-        if (GR->Row() >= 0)
-            MostrarRegistro();
+        if (GR->Row() < 0)
+            return;
+        MostrarRegistro();
+        // The boxes hold the stored texts, whole.
+        mostrados_.resize(Tx.size());
+        for (qsizetype i = 0; i < Tx.size(); ++i)
+            mostrados_[i].mostrar(Tx[i]->text(), Tx[i]->text());
     });
 
     struct Boton {
@@ -179,8 +184,16 @@ QVariantList EstructuraEmpresa::textos(int n) const
 {
     QVariantList r;
     for (int i = 0; i < n; ++i)
-        r.append(Tx[i]->text().trimmed());
+        r.append(valorTx(i));
     return r;
+}
+
+QVariant EstructuraEmpresa::valorTx(int indice) const
+{
+    const QString nuevo = Tx[indice]->text().trimmed();
+    if (CodigoActual <= 0 || indice >= mostrados_.size())
+        return nuevo;
+    return mostrados_[indice].valor(Tx[indice]->text(), nuevo);
 }
 
 void EstructuraEmpresa::insertarOActualizar(const QString& insertar, const QVariantList& valoresInsertar,
@@ -203,6 +216,7 @@ void EstructuraEmpresa::limpiarCampos()
 void EstructuraEmpresa::Nuevo()
 {
     CodigoActual = 0;
+    mostrados_.clear();
     limpiarCampos();
     modoNuevo();
     Tx[0]->setFocus();

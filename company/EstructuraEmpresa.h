@@ -7,6 +7,7 @@
 //
 // The family runs the common order of a save and of a removal; each dialog
 // states what differs: its fields, its checks and its statements.
+#include "core/Controles.h"
 #include "core/Formulario.h"
 
 #include <QList>
@@ -76,8 +77,10 @@ protected:
     virtual bool PuedeQuitar() { return true; }
     // Fills GR; false when the database failed (told).
     virtual bool CargarLista();
-    // The trimmed texts of Tx(0) to Tx(n-1).
+    // The trimmed texts of Tx(0) to Tx(n-1); a box of the picked record that
+    // still reads as the pick left it gives the stored text, blanks and all.
     QVariantList textos(int n) const;
+    QVariant valorTx(int indice) const;
     // The insert for a new record, else the update, which gets the key and
     // the tenant after `valoresActualizar` ("... WHERE cod=? AND id=?").
     void insertarOActualizar(const QString& insertar, const QVariantList& valoresInsertar, const QString& actualizar,
@@ -88,6 +91,7 @@ protected:
 
 private:
     const DatosEstructura d_;
+    QVector<ValorMostrado> mostrados_; // the boxes as the pick left them
     void Bt_Click(int Index);
 };
 

@@ -210,16 +210,21 @@ bool frmEmpresas::Escribir()
     QSqlDatabase& db = M().Conexion;
     const QString& idEmp = M().IdEmp;
     const qint64 sucursales = qint64(T(1).toDouble());
-    const qint64 actividad = Combo4->ListIndex();
-    const qint64 servicios = Check1[0]->Value();
-    const qint64 artesano = Check1[1]->Value();
+    QVariant actividad = qint64(Combo4->ListIndex());
+    QVariant servicios = qint64(Check1[0]->Value());
+    QVariant artesano = qint64(Check1[1]->Value());
+    if (CodigoActual > 0) {
+        actividad = actividad_.valor(actividad.toString(), actividad);
+        servicios = servicios_.valor(servicios.toString(), servicios);
+        artesano = artesano_.valor(artesano.toString(), artesano);
+    }
     qint32 CodigoNuevo = CodigoActual;
     logoFallido_ = false;
 
     if (CodigoActual <= 0) {
-        // Names are unique among the active companies of this tenant.
+        // Names are unique among the active companies of every tenant.
         const QVariant iguales = M().servicios().ConsultarValor(
-            db, u"SELECT COUNT(cod) AS tot FROM empresas WHERE est=1 AND emp=? AND id=?"_s, {T(0), idEmp});
+            db, u"SELECT COUNT(cod) AS tot FROM empresas WHERE est=1 AND emp=?"_s, {T(0)});
         if (iguales.toLongLong() != 0) {
             MsgBox(this, u"Ya existe una empresa con ese nombre!"_s, estilo::Critico, u"Aviso"_s);
             return false;
@@ -238,8 +243,12 @@ bool frmEmpresas::Escribir()
         ejecutar(db,
                  u"UPDATE empresas SET emp=?,suc=?, act=?, selec=?, art=?, dir=?,tel=?,ciu=?,prov=?, nart=? "
                  u"WHERE cod=? AND id=?"_s,
-                 {T(0), sucursales, actividad, servicios, artesano, T(2), T(3), T(4), T(5), T(6), CodigoActual, idEmp});
-        ejecutar(db, u"UPDATE sucursales SET emp=? WHERE id=? AND emp=?"_s, {T(0), idEmp, NombreAnterior});
+                 {valorTx(0), sucursales, actividad, servicios, artesano, valorTx(2), valorTx(3), valorTx(4),
+                  valorTx(5), valorTx(6), CodigoActual, idEmp});
+        // The branches follow a new name (those written as the old one in
+        // another case too); a name left as it was rewrites none of them.
+        if (valorTx(0).toString() != NombreAnterior)
+            ejecutar(db, u"UPDATE sucursales SET emp=? WHERE id=? AND emp=?"_s, {valorTx(0), idEmp, NombreAnterior});
         transaccion.confirmar();
     }
 
@@ -256,8 +265,9 @@ void frmEmpresas::trasEscribir()
 
 bool frmEmpresas::PuedeQuitar()
 {
+    // A company's name is unique across tenants, so its branches are counted in all of them.
     const QVariant sucursales = M().servicios().ConsultarValor(
-        M().Conexion, u"SELECT COUNT(cod) AS tot FROM sucursales WHERE est=1 AND emp=? AND id=?"_s, {T(0), M().IdEmp});
+        M().Conexion, u"SELECT COUNT(cod) AS tot FROM sucursales WHERE est=1 AND emp=?"_s, {T(0)});
     if (sucursales.toLongLong() != 0) {
         MsgBox(this, u"No se puede eliminar la empresa ya que existen sucursales asignadas a ella"_s, estilo::Critico,
                u"Aviso"_s);
@@ -295,6 +305,9 @@ void frmEmpresas::MostrarRegistro()
         Tx[i]->setText(GR->CellText(fila, i + 5));
     Check1[0]->setValue(int(GR->CellValue(fila, 3)));
     Check1[1]->setValue(int(GR->CellValue(fila, 2)));
+    actividad_.mostrar(QString::number(Combo4->ListIndex()), qint64(GR->CellValue(fila, 5)));
+    servicios_.mostrar(QString::number(Check1[0]->Value()), qint64(GR->CellValue(fila, 3)));
+    artesano_.mostrar(QString::number(Check1[1]->Value()), qint64(GR->CellValue(fila, 2)));
     NombreAnterior = GR->CellText(fila, 0);
     // The stored logo is shown with its company, unless a file chosen for the
     // next save is waiting: that one stays in view.

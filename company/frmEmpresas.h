@@ -56,6 +56,9 @@ private:
     QString RutaLogo;
     bool LogoElegido = false;
     bool logoFallido_ = false;
+    // Activity and the two flags as the picked row stored them (an activity
+    // outside the list, a flag of 2): kept while the clerk leaves them.
+    ValorMostrado actividad_, servicios_, artesano_;
     QString T(int indice) const;
 };
 

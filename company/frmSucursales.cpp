@@ -72,7 +72,7 @@ void frmSucursales::Form_Load()
 bool frmSucursales::Validar()
 {
     QString mensaje;
-    if (Cmb->Text().isEmpty())
+    if (empresa().isEmpty())
         mensaje = u"Debe especificar el nombre de la empresa"_s;
     else if (Tx[0]->text().trimmed().isEmpty())
         mensaje = u"Debe especificar la ciudad"_s;
@@ -88,11 +88,16 @@ bool frmSucursales::Validar()
 
 bool frmSucursales::Escribir()
 {
-    const QVariantList propios = QVariantList{Cmb->Text()} + textos(4);
+    const QVariantList propios = QVariantList{empresa()} + textos(4);
     insertarOActualizar(u"INSERT INTO Sucursales (ID,emp,ciu,nom,dir,tel,est) VALUES (?,?,?,?,?,?,1)"_s,
                         QVariantList{M().IdEmp} + propios,
                         u"UPDATE Sucursales SET emp=?,ciu=?, nom=?, dir=?, tel=? WHERE cod=? AND id=?"_s, propios);
     return true;
+}
+
+QString frmSucursales::empresa() const
+{
+    return CodigoActual > 0 ? empresa_.valor(QString::number(Cmb->ListIndex()), Cmb->Text()).toString() : Cmb->Text();
 }
 
 void frmSucursales::MostrarRegistro()
@@ -102,10 +107,11 @@ void frmSucursales::MostrarRegistro()
     const qint32 fila = GR->Row();
     CodigoActual = qint32(GR->CellValue(fila, 5));
     const bool activa = GR->CellValue(fila, 5) > 1 && GR->CellValue(fila, 6) == 1;
-    // A company that the list no longer offers leaves the list as it was.
-    const int empresa = Cmb->findText(GR->CellText(fila, 0));
-    if (empresa >= 0)
-        Cmb->setListIndex(empresa);
+    // A company that the list no longer offers (removed, or named otherwise)
+    // shows as none, and the branch keeps it unless the clerk chooses one:
+    // a pick never moves a branch to the company shown before.
+    Cmb->setListIndex(Cmb->findText(GR->CellText(fila, 0)));
+    empresa_.mostrar(QString::number(Cmb->ListIndex()), GR->CellText(fila, 0));
     sinBuscar([&] {
         Tx[1]->setText(GR->CellText(fila, 1));
         Tx[0]->setText(GR->CellText(fila, 2));

@@ -21,6 +21,9 @@ protected:
 
 private:
     Combo* Cmb = nullptr;
+    ValorMostrado empresa_; // the picked branch's company, as stored
+    // The company the save writes: the stored one while Cmb stays as the pick left it.
+    QString empresa() const;
 };
 
 } // namespace nomencla

@@ -2,7 +2,7 @@
 
 #include <QFileDialog>
 #include <QKeyEvent>
-#include <QMimeData>
+#include <QTextDocument>
 #include <QRegularExpression>
 #include <QTextCursor>
 #include <QToolTip>
@@ -54,22 +54,64 @@ static QKeyEvent teclaCambiada(const QKeyEvent* evento, int codigo)
     return QKeyEvent(evento->type(), 0, evento->modifiers(), QString(QChar(codigo)));
 }
 
-// The first `largo` units of a text, without the half of a character (an
-// emoji) that the cut would leave.
+qsizetype caracteres(QStringView texto)
+{
+    qsizetype n = texto.size();
+    for (qsizetype i = 1; i < texto.size(); ++i)
+        if (texto[i].isLowSurrogate() && texto[i - 1].isHighSurrogate())
+            --n;
+    return n;
+}
+
+// The first `largo` characters of a text; an emoji is never cut in half.
 static QString cortar(const QString& texto, qsizetype largo)
 {
-    QString r = texto.left(largo);
-    if (r.size() < texto.size() && !r.isEmpty() && r.back().isHighSurrogate())
-        r.chop(1);
-    return r;
+    qsizetype i = 0;
+    for (; i < texto.size() && largo > 0; --largo)
+        i += texto[i].isHighSurrogate() && i + 1 < texto.size() && texto[i + 1].isLowSurrogate() ? 2 : 1;
+    return texto.left(i);
+}
+
+// One edit of a box: what it put at `inicio` in place of `quitado` units of
+// the text before. Found as what lies between the common beginning and the
+// common end of the texts before and after, never inside an emoji.
+struct Edicion {
+    qsizetype inicio = 0;
+    qsizetype quitado = 0;
+    QString puesto;
+};
+
+static Edicion edicion(const QString& antes, const QString& despues)
+{
+    const qsizetype menor = std::min(antes.size(), despues.size());
+    qsizetype a = 0;
+    while (a < menor && antes[a] == despues[a])
+        ++a;
+    if (a > 0 && despues[a - 1].isHighSurrogate())
+        --a;
+    qsizetype b = 0;
+    while (b < menor - a && antes[antes.size() - 1 - b] == despues[despues.size() - 1 - b])
+        ++b;
+    if (b > 0 && despues[despues.size() - b].isLowSurrogate())
+        --b;
+    return {a, antes.size() - a - b, despues.mid(a, despues.size() - a - b)};
+}
+
+// What the edit may put in: as many characters as leave the text within
+// `maximo` (none while a longer text set by the program is still there).
+static void limitar(Edicion& e, const QString& antes, int maximo)
+{
+    const qsizetype resto = caracteres(antes) - caracteres(QStringView(antes).mid(e.inicio, e.quitado));
+    e.puesto = cortar(e.puesto, std::max<qsizetype>(0, maximo - resto));
 }
 
 // Typed or pasted text: control characters (a Tab, a line break pasted from
-// elsewhere) become blanks, so that what is stored is what the box shows; a
-// character cut in half at the limit goes.
+// elsewhere) become blanks, so that what is stored is what the box shows; the
+// text is kept to MaxLength characters. A text set by the program (the box
+// has nothing to undo then) is taken as it is.
 class SinControles : public QValidator {
 public:
-    using QValidator::QValidator;
+    explicit SinControles(CajaTexto* caja) : QValidator(caja), caja_(caja) {}
     // Numbers only: a text that isn't one (a paste, mostly; typed keys are
     // filtered before) is refused and a tip under the box says why.
     void soloNumero(int decimales, bool negativo)
@@ -79,41 +121,54 @@ public:
     }
     State validate(QString& texto, int& posicion) const override
     {
-        for (QChar& c : texto)
+        if (!caja_->isUndoAvailable())
+            return Acceptable;
+        const QString& antes = caja_->anterior_;
+        Edicion e = edicion(antes, texto);
+        QString& puesto = e.puesto;
+        for (QChar& c : puesto)
             if (c.category() == QChar::Other_Control)
                 c = u' ';
-        if (!numero_.pattern().isEmpty()) {
-            texto.replace(u',', u'.'); // the decimal mark as typed
-            if (!numero_.match(texto).hasMatch()) {
-                if (auto* caja = qobject_cast<QWidget*>(parent()))
-                    QToolTip::showText(caja->mapToGlobal(QPoint(0, caja->height())),
-                                       u"Este campo solo admite números"_s, caja);
-                return Invalid;
-            }
-        }
-        for (qsizetype i = 0; i < texto.size(); ++i) {
-            const bool par = texto[i].isHighSurrogate() ? i + 1 < texto.size() && texto[i + 1].isLowSurrogate()
-                                                       : !texto[i].isLowSurrogate();
-            if (texto[i].isHighSurrogate() && par)
+        if (!numero_.pattern().isEmpty())
+            puesto.replace(u',', u'.'); // the decimal mark as typed
+        for (qsizetype i = 0; i < puesto.size(); ++i) {
+            if (puesto[i].isHighSurrogate() && i + 1 < puesto.size() && puesto[i + 1].isLowSurrogate())
                 ++i;
-            else if (!par) {
-                texto.remove(i--, 1);
-                posicion = std::min<int>(posicion, int(texto.size()));
-            }
+            else if (puesto[i].isSurrogate())
+                puesto.remove(i--, 1);
+        }
+        limitar(e, antes, caja_->maxLength_);
+        const QString nuevo = antes.left(e.inicio) + puesto + antes.mid(e.inicio + e.quitado);
+        if (!numero_.pattern().isEmpty() && !numero_.match(nuevo).hasMatch()) {
+            QToolTip::showText(caja_->mapToGlobal(QPoint(0, caja_->height())), u"Este campo solo admite números"_s,
+                               caja_);
+            return Invalid;
+        }
+        if (nuevo == antes && texto != antes)
+            return Invalid; // nothing of it fits: the key or the paste is refused
+        if (nuevo != texto) {
+            texto = nuevo;
+            posicion = int(e.inicio + puesto.size());
         }
         return Acceptable;
     }
 
 private:
+    CajaTexto* caja_;
     QRegularExpression numero_;
 };
 
-CajaTexto::CajaTexto(QWidget* parent, int maxLength) : QLineEdit(parent)
+CajaTexto::CajaTexto(QWidget* parent, int maxLength) : QLineEdit(parent), maxLength_(maxLength)
 {
-    setMaxLength(maxLength);
     validador_ = new SinControles(this);
     setValidator(validador_);
-    connect(this, &QLineEdit::textChanged, this, [this] { Q_EMIT Change(); });
+    // Change only for a text that differs: a refused key leaves the box as it was.
+    connect(this, &QLineEdit::textChanged, this, [this] {
+        if (text() == anterior_)
+            return;
+        anterior_ = text();
+        Q_EMIT Change();
+    });
 }
 
 void CajaTexto::setSoloNumero(int decimales, bool negativo)
@@ -160,39 +215,68 @@ CajaTextoMultilinea::CajaTextoMultilinea(QWidget* parent, int maxLength)
     : QPlainTextEdit(parent), maxLength_(maxLength)
 {
     setTabChangesFocus(true);
-    connect(this, &QPlainTextEdit::textChanged, this, [this] {
-        limitar();
-        const QString ahora = toPlainText();
-        if (ahora != anterior_) {
-            anterior_ = ahora;
-            Q_EMIT Change();
-        }
-    });
+    connect(this, &QPlainTextEdit::textChanged, this, &CajaTextoMultilinea::revisar);
+}
+
+// The document's text with its line breaks as '\n', other characters (a
+// non-breaking blank) as they are.
+QString CajaTextoMultilinea::documento() const
+{
+    QString t = document()->toRawText();
+    t.replace(QChar::ParagraphSeparator, u'\n');
+    return t;
+}
+
+QString CajaTextoMultilinea::text() const
+{
+    return editado_ ? documento() : puesto_;
 }
 
 void CajaTextoMultilinea::setText(const QString& texto)
 {
-    setPlainText(cortar(texto, maxLength_));
+    puesto_ = texto;
+    poniendo_ = true;
+    setPlainText(texto);
+    poniendo_ = false;
+    editado_ = false;
+    documento_ = documento();
+    avisar();
 }
 
-void CajaTextoMultilinea::setMaxLength(int n)
+void CajaTextoMultilinea::revisar()
 {
-    maxLength_ = n;
-    limitar();
-}
-
-void CajaTextoMultilinea::limitar()
-{
-    const QString texto = toPlainText();
-    if (texto.size() <= maxLength_)
+    if (poniendo_)
         return;
-    QTextCursor cursor = textCursor();
-    const int posicion = std::min<int>(cursor.position(), maxLength_);
-    const QSignalBlocker bloqueo(this);
-    setPlainText(cortar(texto, maxLength_));
-    cursor = textCursor();
-    cursor.setPosition(std::min<int>(posicion, int(toPlainText().size())));
-    setTextCursor(cursor);
+    const QString ahora = documento();
+    if (ahora == documento_)
+        return;
+    // Typed, pasted or inserted (the document has something to undo): kept to
+    // MaxLength characters. Anything else set the whole text, which stays.
+    if (document()->isUndoAvailable()) {
+        Edicion e = edicion(documento_, ahora);
+        const qsizetype largo = e.puesto.size();
+        limitar(e, documento_, maxLength_);
+        if (e.puesto.size() < largo) {
+            QTextCursor cursor(document());
+            cursor.setPosition(int(e.inicio + e.puesto.size()));
+            cursor.setPosition(int(e.inicio + largo), QTextCursor::KeepAnchor);
+            poniendo_ = true;
+            cursor.removeSelectedText();
+            poniendo_ = false;
+        }
+    }
+    editado_ = true;
+    documento_ = documento();
+    avisar();
+}
+
+void CajaTextoMultilinea::avisar()
+{
+    const QString texto = text();
+    if (texto != anterior_) {
+        anterior_ = texto;
+        Q_EMIT Change();
+    }
 }
 
 void CajaTextoMultilinea::keyPressEvent(QKeyEvent* evento)
@@ -214,21 +298,7 @@ void CajaTextoMultilinea::keyPressEvent(QKeyEvent* evento)
         evento->ignore();
         return;
     }
-    const int codigo = codigoTecla(evento);
-    if (codigo >= 32 && toPlainText().size() - textCursor().selectedText().size() >= maxLength_) {
-        evento->accept();
-        return;
-    }
     QPlainTextEdit::keyPressEvent(evento);
-}
-
-void CajaTextoMultilinea::insertFromMimeData(const QMimeData* origen)
-{
-    if (!origen || !origen->hasText())
-        return;
-    const int libre = maxLength_ - int(toPlainText().size()) + int(textCursor().selectedText().size());
-    if (libre > 0)
-        insertPlainText(cortar(origen->text(), libre));
 }
 
 Etiqueta::Etiqueta(const QString& texto, QWidget* parent) : QLabel(texto, parent)

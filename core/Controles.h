@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QVariant>
 #include <functional>
 
 class QKeyEvent;
@@ -28,13 +29,47 @@ int codigoTecla(const QKeyEvent* evento);
 // The Spanish locale of every date and number shown.
 QLocale localeEcuador();
 
+// A stored value shown in a field. While the field still reads as the pick
+// left it, a save writes the value as it was stored (blanks at the ends, a
+// figure with more places than shown, a flag other than 0 or 1); once the
+// clerk changed the field, what he made of it.
+class ValorMostrado {
+public:
+    void mostrar(const QString& leido, const QVariant& almacenado)
+    {
+        leido_ = leido;
+        almacenado_ = almacenado;
+        activo_ = true;
+    }
+    void olvidar() { activo_ = false; }
+    // `ahora`: how the field reads now; `nuevo`: the value of what it reads.
+    QVariant valor(const QString& ahora, const QVariant& nuevo) const
+    {
+        return activo_ && ahora == leido_ ? almacenado_ : nuevo;
+    }
+
+private:
+    QString leido_;
+    QVariant almacenado_;
+    bool activo_ = false;
+};
+
+// Characters of a text as the database counts them: an emoji is one.
+qsizetype caracteres(QStringView texto);
+
+// A one-line text box. MaxLength limits what typing and pasting make of the
+// text, in characters; a text set by the program (a stored record) is kept
+// whole, and neither the key filters nor the number check touch it.
 class CajaTexto : public QLineEdit {
     Q_OBJECT
+    Q_PROPERTY(int maxLength READ maxLength WRITE setMaxLength)
 public:
     explicit CajaTexto(QWidget* parent = nullptr, int maxLength = 32767);
     QString Text() const { return text(); }
     void setTag(const QString& tag) { tag_ = tag; }
     QString Tag() const { return tag_; }
+    int maxLength() const { return maxLength_; }
+    void setMaxLength(int n) { maxLength_ = n; }
     // A box for a number: text that isn't one is not taken, pasted or typed
     // (',' is read as the decimal point). Values set by the program are not checked.
     void setSoloNumero(int decimales, bool negativo = false);
@@ -49,22 +84,27 @@ protected:
     void keyReleaseEvent(QKeyEvent* evento) override;
 
 private:
+    friend class SinControles;
     QString tag_;
+    int maxLength_;
+    QString anterior_; // the text before the change being checked
     SinControles* validador_ = nullptr;
 };
 
 // A text box of several lines (descriptions), limited to MaxLength characters
-// whether typed or pasted. Enter adds no line: it is a key like in a one-line box.
+// whether typed or pasted; a text set by the program is kept whole, line
+// breaks ("\r\n" too) and all, until the clerk edits it. Enter adds no line:
+// it is a key like in a one-line box.
 class CajaTextoMultilinea : public QPlainTextEdit {
     Q_OBJECT
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY Change)
     Q_PROPERTY(int maxLength READ maxLength WRITE setMaxLength)
 public:
     explicit CajaTextoMultilinea(QWidget* parent = nullptr, int maxLength = 32767);
-    QString text() const { return toPlainText(); }
+    QString text() const;
     void setText(const QString& texto);
     int maxLength() const { return maxLength_; }
-    void setMaxLength(int n);
+    void setMaxLength(int n) { maxLength_ = n; }
 
 Q_SIGNALS:
     void Change();
@@ -72,12 +112,17 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent* evento) override;
-    void insertFromMimeData(const QMimeData* origen) override;
 
 private:
     int maxLength_;
-    QString anterior_;
-    void limitar();
+    QString puesto_;        // the text the program set, as it was given
+    bool editado_ = false;  // the document changed since: it is the text
+    bool poniendo_ = false;
+    QString documento_;     // the document's text after the last change
+    QString anterior_;      // text() after the last change
+    QString documento() const;
+    void revisar(); // after each change of the document
+    void avisar();  // Change, when text() changed
 };
 
 class Etiqueta : public QLabel {

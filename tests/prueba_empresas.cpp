@@ -45,8 +45,8 @@ private Q_SLOTS:
                         "('1','Comercial Dos','A',1),('1','Sin Sucursales','E',0)"_s);
     }
 
-    // A refused save names the missing field; a name is a duplicate only
-    // among this tenant's active companies, whatever the blanks and case;
+    // A refused save names the missing field; a name is a duplicate among
+    // the active companies of every tenant, whatever the blanks and case;
     // activity and boxes are stored as numbers. Key 1 is never removed;
     // active branches refuse the removal, removed ones don't, and the
     // question names the company. A rename keeps the picked row's other
@@ -63,7 +63,10 @@ private Q_SLOTS:
             tx(d, 5)->setText(u"Quito"_s);
             pulsar(d, u"Bt(0)"_s);
             QCOMPARE(cajas.ultima(), u"Ya existe una empresa con ese nombre!"_s);
-            tx(d, 0)->setText(u" Solo Otra "_s);
+            tx(d, 0)->setText(u" Solo Otra "_s); // another tenant's
+            pulsar(d, u"Bt(0)"_s);
+            QCOMPARE(cajas.ultima(), u"Ya existe una empresa con ese nombre!"_s);
+            tx(d, 0)->setText(u"Solo Uno"_s);
             pulsar(d, u"Bt(0)"_s);
             llenar(d, u"Vieja"_s);
             control<QComboBox>(d, u"Combo4"_s)->setCurrentIndex(8);
@@ -94,7 +97,7 @@ private Q_SLOTS:
         QVERIFY(!nomencla.Empresas(u"3"_s, db));
         QCOMPARE(cajas.ultima(), u"No se puede eliminar esta empresa ya que debe haber al menos una empresa activa!"_s);
         QCOMPARE(filas(db, u"SELECT id,emp,act,suc,selec,art,nart,dir,est FROM empresas WHERE cod=2 OR cod>6 ORDER BY cod"_s),
-                 (QStringList{u"1|Comercial Tres|1|2|1|1|A-7|Calle 2|1"_s, u"1|Solo Otra|-1|1|0|0||Quito|1"_s,
+                 (QStringList{u"1|Comercial Tres|1|2|1|1|A-7|Calle 2|1"_s, u"1|Solo Uno|-1|1|0|0||Quito|1"_s,
                               u"1|Vieja|8|1|1|1|N-1|Quito|1"_s}));
         QCOMPARE(filas(db, u"SELECT emp,est FROM empresas WHERE cod IN (3,6) ORDER BY cod"_s),
                  (QStringList{u"Sin Sucursales|0"_s, u"Sola|1"_s}));

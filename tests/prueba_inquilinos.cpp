@@ -114,20 +114,6 @@ const QList<Caso> casos{
      "DT=06-15; Bt(0); DT=10-09; -Bt(2)"},
 };
 
-// Every row of the tenant, every cell quoted by the server (BLOBs as hex).
-QStringList foto(QSqlDatabase& db, const QString& tabla, const QString& id)
-{
-    QStringList celdas, orden;
-    for (const QString& c : filas(db, u"SELECT COLUMN_NAME, DATA_TYPE FROM information_schema.COLUMNS WHERE "
-                                      "TABLE_SCHEMA=DATABASE() AND TABLE_NAME=? ORDER BY ORDINAL_POSITION"_s, {tabla})) {
-        const QStringList p = c.split(u'|');
-        orden << u'`' + p[0] + u'`';
-        celdas << (p[1].endsWith(u"blob"_s) ? u"QUOTE(HEX(%1))"_s : u"QUOTE(%1)"_s).arg(orden.last());
-    }
-    return filas(db, u"SELECT CONCAT_WS('|',%1) FROM `%2` WHERE id=? ORDER BY %3"_s.arg(celdas.join(u','), tabla, orden.join(u',')),
-                 {id});
-}
-
 } // namespace
 
 class PruebaInquilinos : public QObject {

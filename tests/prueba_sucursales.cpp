@@ -14,8 +14,8 @@ class PruebaSucursales : public QObject {
     clsNomencla nomencla;
 
 private Q_SLOTS:
-    // The combo offers this tenant's active companies and follows a pick,
-    // unless the picked company is no longer offered; the address typed is
+    // The combo offers this tenant's active companies and follows a pick; a
+    // company no longer offered shows as none and stays the branch's; the address typed is
     // looked for among the cities, yet a pick shows the picked row; key 1 and
     // status 2 can't be removed. A save needs an active company.
     void empresas_busqueda_y_rechazos()
@@ -49,10 +49,15 @@ private Q_SLOTS:
 
             cmb->setCurrentIndex(0);
             dobleClic(gr, filaCon(gr, u"Vieja"_s, 1));
+            QCOMPARE(cmb->currentIndex(), -1);
+            pulsar(d, u"Bt(0)"_s);
+            dobleClic(gr, filaCon(gr, u"Centro"_s, 1));
+            cmb->setCurrentIndex(1);
             pulsar(d, u"Bt(0)"_s);
         });
         QVERIFY(nomencla.Sucursales(u"1"_s, db));
-        QCOMPARE(valor(db, u"SELECT emp FROM Sucursales WHERE cod=4"_s).toString(), u"Andina"_s);
+        QCOMPARE(filas(db, u"SELECT emp FROM Sucursales WHERE cod IN (2,4) ORDER BY cod"_s),
+                 (QStringList{u"Bodega Sur"_s, u"Cerrada"_s}));
         cajas.limpiar();
         alAbrir(u"frmSucursales"_s, [&](QWidget* d) {
             for (int i = 0; i < 4; ++i)

@@ -32,16 +32,18 @@ const QStringList entradas{u"O'Brien"_s,
                            u"__"_s};
 
 // What a box keeps of a paste: one-line boxes turn control characters into
-// blanks; all cut at the limit, never half a character; the dialog trims.
+// blanks; all cut at the limit in characters (an emoji is one, never cut in
+// half); the dialog trims.
 QString guardable(QString t, int largo, bool varias)
 {
     if (!varias)
         for (QChar& c : t)
             if (c.category() == QChar::Other_Control)
                 c = u' ';
-    t.truncate(largo);
-    if (!t.isEmpty() && t.back().isHighSurrogate())
-        t.chop(1);
+    qsizetype i = 0;
+    for (int n = 0; i < t.size() && n < largo; ++n)
+        i += t[i].isHighSurrogate() ? 2 : 1;
+    t.truncate(i);
     return t.trimmed();
 }
 
@@ -218,7 +220,7 @@ private Q_SLOTS:
                 caja->selectAll();
                 caja->insert(pegado);
                 // The box cuts at its length first: what is left may be a number.
-                const QString cortado = pegado.left(caja->maxLength());
+                const QString cortado = pegado.left(caja->property("maxLength").toInt());
                 const bool numero = QRegularExpression(u"^\\s*\\d*\\s*$"_s).match(cortado).hasMatch();
                 QCOMPARE(caja->text(), numero ? cortado : u"7"_s);
                 ++cuenta.entradas;

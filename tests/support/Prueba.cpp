@@ -95,6 +95,27 @@ QStringList filas(QSqlDatabase& db, const QString& sql, const QVariantList& valo
     return r;
 }
 
+QStringList columnas(QSqlDatabase& db, const QString& tabla)
+{
+    return filas(db, u"SELECT COLUMN_NAME FROM information_schema.COLUMNS WHERE TABLE_SCHEMA=DATABASE() "
+                     "AND TABLE_NAME=? ORDER BY ORDINAL_POSITION"_s, {tabla});
+}
+
+QStringList foto(QSqlDatabase& db, const QString& tabla, const QString& id)
+{
+    QStringList celdas, orden;
+    for (const QString& c : filas(db, u"SELECT COLUMN_NAME, DATA_TYPE FROM information_schema.COLUMNS WHERE "
+                                      "TABLE_SCHEMA=DATABASE() AND TABLE_NAME=? ORDER BY ORDINAL_POSITION"_s, {tabla})) {
+        const QStringList p = c.split(u'|');
+        orden << u'`' + p[0] + u'`';
+        celdas << (p[1].endsWith(u"blob"_s) ? u"QUOTE(HEX(%1))"_s : u"QUOTE(%1)"_s).arg(orden.last());
+    }
+    const QString sql = u"SELECT CONCAT_WS(CHAR(31),%1) FROM `%2`"_s.arg(celdas.join(u','), tabla);
+    if (id.isNull())
+        return filas(db, sql + u" ORDER BY "_s + orden.join(u','));
+    return filas(db, sql + u" WHERE id=? ORDER BY "_s + orden.join(u','), {id});
+}
+
 Cajas::Cajas()
 {
     timer_.setInterval(5);

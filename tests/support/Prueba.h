@@ -25,6 +25,12 @@ void ejecutarSql(QSqlDatabase& db, const QString& sql);
 QVariant valor(QSqlDatabase& db, const QString& sql, const QVariantList& valores = {});
 // Rows as texts, cells joined by '|'.
 QStringList filas(QSqlDatabase& db, const QString& sql, const QVariantList& valores = {});
+// The columns of a table, in their order.
+QStringList columnas(QSqlDatabase& db, const QString& tabla);
+// Every row of a table (of the tenant `id`, when given) in the order of its
+// columns, each cell quoted by the server (BLOBs as hex, NULL bare), cells
+// joined by character 31: what the bytes of the table are.
+QStringList foto(QSqlDatabase& db, const QString& tabla, const QString& id = {});
 
 struct Caja {
     QString titulo;
