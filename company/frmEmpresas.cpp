@@ -219,7 +219,7 @@ bool frmEmpresas::Escribir()
     if (CodigoActual <= 0) {
         // Names are unique among the active companies of this tenant.
         const QVariant iguales = M().servicios().ConsultarValor(
-            db, u"SELECT COUNT(cod) AS tot FROM empresas WHERE est=1 AND emp=? AND id=?"_s, {T(0), idEmp});
+            db, u"SELECT EXISTS(SELECT cod FROM empresas WHERE est=1 AND emp=? AND id=?) AS tot"_s, {T(0), idEmp});
         if (iguales.toLongLong() != 0) {
             MsgBox(this, u"Ya existe una empresa con ese nombre!"_s, estilo::Critico, u"Aviso"_s);
             return false;
@@ -257,7 +257,7 @@ void frmEmpresas::trasEscribir()
 bool frmEmpresas::PuedeQuitar()
 {
     const QVariant sucursales = M().servicios().ConsultarValor(
-        M().Conexion, u"SELECT COUNT(cod) AS tot FROM sucursales WHERE est=1 AND emp=? AND id=?"_s, {T(0), M().IdEmp});
+        M().Conexion, u"SELECT EXISTS(SELECT cod FROM sucursales WHERE est=1 AND emp=? AND id=?) AS tot"_s, {T(0), M().IdEmp});
     if (sucursales.toLongLong() != 0) {
         MsgBox(this, u"No se puede eliminar la empresa ya que existen sucursales asignadas a ella"_s, estilo::Critico,
                u"Aviso"_s);
