@@ -89,6 +89,12 @@ private:
 
 frmLsZona::frmLsZona() : ListaCodificada(datos()) {}
 
+const frmLsZona::SentenciasLugar& frmLsZona::lugares()
+{
+    static const SentenciasLugar s{sqlLugarActualizar, sqlLugarClientes};
+    return s;
+}
+
 void frmLsZona::DisenarExtra(QWidget* lienzo, QGridLayout*, QBoxLayout* cuerpo)
 {
     auto* etiquetaLugar = new Etiqueta(u"&Lugares asociados a esta zona"_s, lienzo);
