@@ -34,7 +34,7 @@ using namespace prueba;
 
 namespace {
 
-constexpr int filasInquilino = 6000; // tenant '1'; each of the 19 others has half of it / 19 * 2
+constexpr int filasInquilino = 6000; // tenant '1'; each of the 19 others 2/19 of it: tenant '1' holds a third
 
 // The statements sent, in the order first seen, with up to four sets of values each.
 struct Enviada {
