@@ -6,9 +6,14 @@
 //   (e, f) first paint and closing of a real dialog (medirDialogo),
 //   (g) peak memory of (a) and (b), each in a process of its own.
 // Usage: nomencla-bench --socket PATH [--max N] [--reps R] [--naive-max N]
+//        nomencla-bench --socket PATH --operaciones [--reps R] [--vecinos-grandes N] [--sin-1m-grandes]
+//        (the operations of a dialog as the tenants grow: bench/operaciones.cpp)
 #include "core/Alfarje.h"
 #include "core/ModeloAlfarje.h"
 #include "core/Plegado.h"
+
+#include "bench/cronometro.h"
+#include "bench/operaciones.h"
 
 #include <nomencla/clsNomencla.h>
 
@@ -243,33 +248,6 @@ long picoEnHijo(const char* modo, const Conjunto& c, int n)
     return QString::fromLatin1(p.readAllStandardOutput()).trimmed().toLong();
 }
 
-// Watches the city dialog opened through the public class: when it is shown,
-// when its list first paints, and then closes it.
-class Cronometro : public QObject {
-public:
-    QElapsedTimer reloj;
-    qint64 mostrado = -1, pintado = -1, cierre = -1;
-    QPointer<QWidget> dialogo;
-
-protected:
-    bool eventFilter(QObject* o, QEvent* e) override
-    {
-        if (e->type() == QEvent::Show && o->objectName() == u"frmLsCiudad"_s && mostrado < 0) {
-            mostrado = reloj.nsecsElapsed();
-            dialogo = static_cast<QWidget*>(o);
-        } else if (e->type() == QEvent::Paint && pintado < 0 && dialogo && o->parent()
-                   && o->parent()->objectName() == u"GR"_s) {
-            // Let the paint itself finish before the close is asked for.
-            QTimer::singleShot(0, this, [this] {
-                pintado = reloj.nsecsElapsed();
-                cierre = reloj.nsecsElapsed();
-                QMetaObject::invokeMethod(dialogo.data(), "reject");
-            });
-        }
-        return false;
-    }
-};
-
 // First paint (e) and closing (f) of frmLsCiudad on a list of n rows, from the
 // call of the public method to the list's first paint, and from the request to
 // close it until the method has returned.
@@ -278,7 +256,7 @@ void medirDialogo(QSqlDatabase& bd, int n)
     clsNomencla nomencla;
     std::vector<double> primera, trasLlenado, cerrar;
     for (int r = 0; r < 3; ++r) {
-        Cronometro c;
+        Cronometro c(u"frmLsCiudad"_s);
         qApp->installEventFilter(&c);
         c.reloj.start();
         nomencla.Ciudades(QString::number(n), bd);
@@ -318,6 +296,9 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "usage: nomencla-bench --socket PATH [--max N] [--reps R] [--naive-max N]\n");
         return 1;
     }
+
+    if (args.contains(u"--operaciones"_s))
+        return medirOperaciones(g_socket, args);
 
     const QString hijo = opcion(u"--hijo"_s, QString());
     if (!hijo.isEmpty()) {

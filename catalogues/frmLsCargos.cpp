@@ -27,7 +27,7 @@ const DatosListaCodificada& frmLsCargos::datos()
         x.insertar = {u"INSERT INTO Cargos (id,car,des,est) VALUES (?,?,?,1)"_s, {Valor::Empresa, Valor::V0, Valor::V1}};
         x.actualizar = {u"UPDATE Cargos SET car=?, des=? WHERE cod=? AND id=?"_s,
                         {Valor::V0, Valor::V1, Valor::V2, Valor::Empresa}};
-        x.referencia = {u"SELECT COUNT(cod) AS tot FROM mvendedor WHERE car=? AND id=?"_s, {Valor::V2, Valor::Empresa}};
+        x.referencia = {u"SELECT EXISTS(SELECT cod FROM mvendedor WHERE car=? AND id=?) AS tot"_s, {Valor::V2, Valor::Empresa}};
         x.borrar = {u"UPDATE Cargos SET est=0 WHERE cod=? AND id=?"_s, {Valor::V2, Valor::Empresa}};
         x.msgVacio = u"Debe especificar el nombre del cargo!"_s;
         x.msgDuplicado = u"El cargo ya se encuentra registrado en la lista!"_s;

@@ -29,7 +29,7 @@ const DatosListaCodificada& frmLsCategorias::datos()
                       {Valor::Empresa, Valor::V2, Valor::V0, Valor::V1}};
         x.actualizar = {u"UPDATE mCatClie SET cat=?, des=? WHERE cod=? AND id=?"_s,
                         {Valor::V0, Valor::V1, Valor::V2, Valor::Empresa}};
-        x.referencia = {u"SELECT COUNT(cod) AS tot FROM mCliente WHERE  cat=? AND id=?"_s, {Valor::V2, Valor::Empresa}};
+        x.referencia = {u"SELECT EXISTS(SELECT cod FROM mCliente WHERE  cat=? AND id=?) AS tot"_s, {Valor::V2, Valor::Empresa}};
         x.borrar = {u"UPDATE mCatClie SET est=0 WHERE cod=? AND id=?"_s, {Valor::V2, Valor::Empresa}};
         x.msgVacio = u"Debe especificar el nombre de la categoría!"_s;
         x.msgDuplicado = u"La categoría ya se encuentra registrada en la lista!"_s;

@@ -19,7 +19,7 @@ const DatosListaSimple& frmLsCiudad::datos()
         x.lista = {u"SELECT ciu FROM lsCiudades WHERE  id=? ORDER BY ciu"_s, {Valor::Empresa}};
         x.campos = u"Ciu"_s;
         x.insertar = {u"INSERT INTO lsCiudades (id,ciu) VALUES (?,?)"_s, {Valor::Empresa, Valor::V0}};
-        x.referencia = {u"SELECT COUNT(cod) AS tot FROM mCliente WHERE  id=? AND  ciu=?"_s, {Valor::Empresa, Valor::V0}};
+        x.referencia = {u"SELECT EXISTS(SELECT cod FROM mCliente WHERE  id=? AND  ciu=?) AS tot"_s, {Valor::Empresa, Valor::V0}};
         x.borrar = {u"DELETE FROM lsciudades WHERE  id=? AND  ciu=?"_s, {Valor::Empresa, Valor::V0}};
         x.porClave = false;
         x.msgVacio = u"Debe especificar el nombre de la ciudad!"_s;

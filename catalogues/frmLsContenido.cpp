@@ -19,7 +19,7 @@ const DatosListaSimple& frmLsContenido::datos()
         x.lista = {u"SELECT nom, cod FROM lsContenidos WHERE  id=?  ORDER BY nom"_s, {Valor::Empresa}};
         x.campos = u"nom,cod"_s;
         x.insertar = {u"INSERT INTO lsContenidos (ID,nom) VALUES (?,?)"_s, {Valor::Empresa, Valor::V0}};
-        x.referencia = {u"SELECT COUNT(cod) AS tot FROM sOrdenObjetos WHERE  id=? AND obj=?"_s, {Valor::Empresa, Valor::V1}};
+        x.referencia = {u"SELECT EXISTS(SELECT cod FROM sOrdenObjetos WHERE  id=? AND obj=?) AS tot"_s, {Valor::Empresa, Valor::V1}};
         x.borrar = {u"DELETE FROM lsContenidos WHERE cod=? AND id=?"_s, {Valor::V1, Valor::Empresa}};
         x.porClave = true;
         x.msgVacio = u"Debe especificar el nombre del objeto!"_s;

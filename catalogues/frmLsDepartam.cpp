@@ -19,7 +19,7 @@ const DatosListaSimple& frmLsDepartam::datos()
         x.lista = {u"SELECT depa FROM lsDepartam WHERE  id=? ORDER BY depa"_s, {Valor::Empresa}};
         x.campos = u"depa"_s;
         x.insertar = {u"INSERT INTO lsDepartam (ID,depa) VALUES (?,?)"_s, {Valor::Empresa, Valor::V0}};
-        x.referencia = {u"SELECT COUNT(cod) AS tot FROM mvendedor WHERE  id=? AND depa=?"_s, {Valor::Empresa, Valor::V0}};
+        x.referencia = {u"SELECT EXISTS(SELECT cod FROM mvendedor WHERE  id=? AND depa=?) AS tot"_s, {Valor::Empresa, Valor::V0}};
         x.borrar = {u"DELETE FROM lsDepartam WHERE  id=? AND depa=?"_s, {Valor::Empresa, Valor::V0}};
         x.porClave = false;
         x.msgVacio = u"Debe especificar el nombre del departamento!"_s;

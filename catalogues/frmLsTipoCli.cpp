@@ -42,7 +42,7 @@ const DatosListaCodificada& frmLsTipoCli::datos()
                       {Valor::Empresa, Valor::V2, Valor::V0, Valor::V1, Valor::V3, Valor::V4, Valor::V5}};
         x.actualizar = {u"UPDATE mTipClie SET tip=?, des=?,cre=?,pla=?,descu=? WHERE cod=? AND id=?"_s,
                         {Valor::V0, Valor::V1, Valor::V3, Valor::V4, Valor::V5, Valor::V2, Valor::Empresa}};
-        x.referencia = {u"SELECT COUNT(cod) AS tot FROM mCliente WHERE  id=? AND tip=?"_s, {Valor::Empresa, Valor::V2}};
+        x.referencia = {u"SELECT EXISTS(SELECT cod FROM mCliente WHERE  id=? AND tip=?) AS tot"_s, {Valor::Empresa, Valor::V2}};
         x.borrar = {u"UPDATE mTipClie SET est=0 WHERE cod=? AND id=?"_s, {Valor::V2, Valor::Empresa}};
         x.msgVacio = u"Debe especificar el nombre del tipo de cliente!"_s;
         x.msgDuplicado = u"El tipo ingresado ya se encuentra registrado en la lista!"_s;

@@ -44,7 +44,7 @@ const DatosListaCodificada& frmLsZona::datos()
         x.actualizar = {u"UPDATE mZonaClie SET zon=?, des=? WHERE cod=? AND id=?"_s,
                         {Valor::V0, Valor::V1, Valor::V2, Valor::Empresa}};
         // The zone's key is bound as the number it is.
-        x.referencia = {u"SELECT COUNT(cod) AS tot FROM mCliente WHERE  id=? AND zon=?"_s, {Valor::Empresa, Valor::V2}};
+        x.referencia = {u"SELECT EXISTS(SELECT cod FROM mCliente WHERE  id=? AND zon=?) AS tot"_s, {Valor::Empresa, Valor::V2}};
         x.borrar = {u"UPDATE mZonaClie SET est=0 WHERE cod=? AND id=?"_s, {Valor::V2, Valor::Empresa}};
         x.msgVacio = u"Debe especificar el nombre de la zona!"_s;
         x.msgDuplicado = u"La zona ya se encuentra registrada en la lista!"_s;
@@ -64,7 +64,7 @@ const auto sqlLugarPendiente = u"INSERT INTO mZonaLugar (ID,zon,lug,est) VALUES 
 const auto sqlLugarNuevo = u"INSERT INTO mZonaLugar (id,zon,lug,est,ord) VALUES (?,?,?,1,?)"_s;
 const auto sqlLugarActualizar = u"UPDATE mZonaLugar SET lug=?, ord=? WHERE cod=? AND id=?"_s;
 const auto sqlLugarClientes = u"UPDATE mCliente SET lug=? WHERE  id=? AND lug=? and zon=?"_s;
-const auto sqlClientesDelLugar = u"SELECT COUNT(cod) AS tot FROM mCliente WHERE  id=? AND lug=?"_s;
+const auto sqlClientesDelLugar = u"SELECT EXISTS(SELECT cod FROM mCliente WHERE  id=? AND lug=?) AS tot"_s;
 const auto sqlLugarQuitar = u"UPDATE mZonalugar SET est=0 WHERE cod=? AND id=?"_s;
 
 // The numeric value of a key cell: a stored place's cod, 0 for a pending row.
@@ -88,6 +88,12 @@ private:
 } // namespace
 
 frmLsZona::frmLsZona() : ListaCodificada(datos()) {}
+
+const frmLsZona::SentenciasLugar& frmLsZona::lugares()
+{
+    static const SentenciasLugar s{sqlLugarActualizar, sqlLugarClientes};
+    return s;
+}
 
 void frmLsZona::DisenarExtra(QWidget* lienzo, QGridLayout*, QBoxLayout* cuerpo)
 {

@@ -14,6 +14,11 @@ class frmLsZona : public ListaCodificada {
 public:
     frmLsZona();
     static const DatosListaCodificada& datos();
+    // The places' statements that the benchmark runs as the dialog does.
+    struct SentenciasLugar {
+        QString actualizar, clientes;
+    };
+    static const SentenciasLugar& lugares();
 
     void GuardarLugar();
     void QuitarLugar();

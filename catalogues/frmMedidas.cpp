@@ -24,10 +24,10 @@ const DatosListaSimple& frmMedidas::datos()
         x.lista = {u"SELECT med,abr FROM amedidas WHERE  id=? ORDER BY med"_s, {Valor::Empresa}};
         x.campos = u"med,abr"_s;
         x.insertar = {u"INSERT INTO aMedidas (id,med,abr) VALUES (?,?,?)"_s, {Valor::Empresa, Valor::V0, Valor::V2}};
-        x.referencia = {u"SELECT COUNT(cod) AS tot FROM mArticulo WHERE  id=? AND  med=?"_s, {Valor::Empresa, Valor::V2}};
+        x.referencia = {u"SELECT EXISTS(SELECT cod FROM mArticulo WHERE  id=? AND  med=?) AS tot"_s, {Valor::Empresa, Valor::V2}};
         // Articles keep the abbreviation only: while another unit of the company
         // has the same one, they still have their unit and this one may go.
-        x.suplente = {u"SELECT COUNT(*) AS tot FROM amedidas WHERE  id=? AND  abr=? AND  med<>?"_s,
+        x.suplente = {u"SELECT EXISTS(SELECT * FROM amedidas WHERE  id=? AND  abr=? AND  med<>?) AS tot"_s,
                       {Valor::Empresa, Valor::V2, Valor::V0}};
         x.borrar = {u"DELETE FROM amedidas WHERE  id=? AND  med=?"_s, {Valor::Empresa, Valor::V0}};
         x.porClave = false;

@@ -224,7 +224,7 @@ bool frmEmpresas::Escribir()
     if (CodigoActual <= 0) {
         // Names are unique among the active companies of every tenant.
         const QVariant iguales = M().servicios().ConsultarValor(
-            db, u"SELECT COUNT(cod) AS tot FROM empresas WHERE est=1 AND emp=?"_s, {T(0)});
+            db, u"SELECT EXISTS(SELECT cod FROM empresas WHERE est=1 AND emp=?) AS tot"_s, {T(0)});
         if (iguales.toLongLong() != 0) {
             MsgBox(this, u"Ya existe una empresa con ese nombre!"_s, estilo::Critico, u"Aviso"_s);
             return false;
@@ -267,7 +267,7 @@ bool frmEmpresas::PuedeQuitar()
 {
     // A company's name is unique across tenants, so its branches are counted in all of them.
     const QVariant sucursales = M().servicios().ConsultarValor(
-        M().Conexion, u"SELECT COUNT(cod) AS tot FROM sucursales WHERE est=1 AND emp=?"_s, {T(0)});
+        M().Conexion, u"SELECT EXISTS(SELECT cod FROM sucursales WHERE est=1 AND emp=?) AS tot"_s, {T(0)});
     if (sucursales.toLongLong() != 0) {
         MsgBox(this, u"No se puede eliminar la empresa ya que existen sucursales asignadas a ella"_s, estilo::Critico,
                u"Aviso"_s);

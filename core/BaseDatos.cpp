@@ -48,8 +48,21 @@ bool reconectar(QSqlDatabase db)
     return db.open();
 }
 
+static ObservadorSentencias& observador()
+{
+    static ObservadorSentencias o;
+    return o;
+}
+
+void observarSentencias(ObservadorSentencias o)
+{
+    observador() = std::move(o);
+}
+
 QSqlQuery ejecutar(QSqlDatabase& db, const QString& sql, const QVariantList& valores, bool soloAdelante)
 {
+    if (observador())
+        observador()(db, sql, valores);
     // A connection left closed by a failed reconnection is opened again here:
     // nothing has been sent yet.
     if (!db.isOpen() && !db.open())

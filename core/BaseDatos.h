@@ -37,6 +37,11 @@ private:
 QSqlQuery ejecutar(QSqlDatabase& db, const QString& sql, const QVariantList& valores = {},
                    bool soloAdelante = true);
 
+// Sees each statement that ejecutar() is about to run, with its values (the
+// plan test records them this way). Empty, the default: nothing is watched.
+using ObservadorSentencias = std::function<void(const QSqlDatabase&, const QString&, const QVariantList&)>;
+void observarSentencias(ObservadorSentencias observador);
+
 // First field of the first row; a Null QVariant when there is no row or the
 // value is Null (MAX over no rows).
 QVariant consultarValor(QSqlDatabase& db, const QString& sql, const QVariantList& valores = {});

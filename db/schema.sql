@@ -61,7 +61,8 @@ CREATE TABLE IF NOT EXISTS aMedidas (
   med VARCHAR(20) NOT NULL DEFAULT '',
   abr VARCHAR(10) NOT NULL DEFAULT '',
   PRIMARY KEY (pk),
-  KEY ix_amedidas_id_med (id, med)
+  KEY ix_amedidas_id_med_abr (id, med, abr),  -- the list, read from the index alone
+  KEY ix_amedidas_id_abr (id, abr)           -- whether another unit has the abbreviation
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_unicode_ci;
 
 CREATE TABLE IF NOT EXISTS lsPaises (
@@ -102,7 +103,7 @@ CREATE TABLE IF NOT EXISTS mCatClie (
   PRIMARY KEY (pk),
   UNIQUE KEY uq_mcatclie_id_cod (id, cod),
   KEY ix_mcatclie_cod (cod),
-  KEY ix_mcatclie_id_est_cat (id, est, cat)
+  KEY ix_mcatclie_lista (id, est, cat, des, cod)  -- the list, read from the index alone
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_unicode_ci;
 
 CREATE TABLE IF NOT EXISTS Cargos (
@@ -112,7 +113,7 @@ CREATE TABLE IF NOT EXISTS Cargos (
   des VARCHAR(150) NOT NULL DEFAULT '',
   est INT NOT NULL DEFAULT 1,
   PRIMARY KEY (cod),
-  KEY ix_cargos_id_est_car (id, est, car)
+  KEY ix_cargos_id_est_car_des (id, est, car, des)  -- the list, read from the index alone
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_unicode_ci;
 
 CREATE TABLE IF NOT EXISTS SRI_Documentos (
@@ -122,7 +123,7 @@ CREATE TABLE IF NOT EXISTS SRI_Documentos (
   des VARCHAR(30) NOT NULL DEFAULT '',
   est INT NOT NULL DEFAULT 1,
   PRIMARY KEY (cod),
-  KEY ix_sri_documentos_id_est_cin (id, est, cin)
+  KEY ix_sri_documentos_id_est_cin_des (id, est, cin, des)  -- the list, read from the index alone
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_unicode_ci;
 
 CREATE TABLE IF NOT EXISTS SRI_Sustentos (
@@ -132,7 +133,7 @@ CREATE TABLE IF NOT EXISTS SRI_Sustentos (
   des VARCHAR(150) NOT NULL DEFAULT '',
   est INT NOT NULL DEFAULT 1,
   PRIMARY KEY (cod),
-  KEY ix_sri_sustentos_id_est_cin (id, est, cin)
+  KEY ix_sri_sustentos_id_est_cin_des (id, est, cin, des)  -- the list, read from the index alone
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_unicode_ci;
 
 CREATE TABLE IF NOT EXISTS mTipClie (
@@ -149,7 +150,7 @@ CREATE TABLE IF NOT EXISTS mTipClie (
   PRIMARY KEY (pk),
   UNIQUE KEY uq_mtipclie_id_cod (id, cod),
   KEY ix_mtipclie_cod (cod),
-  KEY ix_mtipclie_id_est_tip (id, est, tip)
+  KEY ix_mtipclie_lista (id, est, tip, des, cre, pla, descu, cod)  -- the list, read from the index alone
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_unicode_ci;
 
 CREATE TABLE IF NOT EXISTS lsBancos (
@@ -161,7 +162,7 @@ CREATE TABLE IF NOT EXISTS lsBancos (
   dife DECIMAL(14,2) NOT NULL DEFAULT 0,
   est  INT NOT NULL DEFAULT 1,
   PRIMARY KEY (cod),
-  KEY ix_lsbancos_id_est_nom (id, est, nom)
+  KEY ix_lsbancos_lista (id, est, nom, tar, cor, dife)  -- the list, read from the index alone
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_unicode_ci;
 
 CREATE TABLE IF NOT EXISTS mZonaClie (
@@ -174,7 +175,7 @@ CREATE TABLE IF NOT EXISTS mZonaClie (
   PRIMARY KEY (pk),
   UNIQUE KEY uq_mzonaclie_id_cod (id, cod),
   KEY ix_mzonaclie_cod (cod),
-  KEY ix_mzonaclie_id_est_zon (id, est, zon)
+  KEY ix_mzonaclie_lista (id, est, zon, des, cod)  -- the list, read from the index alone
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_unicode_ci;
 
 CREATE TABLE IF NOT EXISTS mZonaLugar (
@@ -206,7 +207,9 @@ CREATE TABLE IF NOT EXISTS empresas (
   logo  MEDIUMBLOB NULL DEFAULT NULL,
   est   INT NOT NULL DEFAULT 1,
   PRIMARY KEY (cod),
-  KEY ix_empresas_id_est_emp (id, est, emp),
+  -- the list (est<>0) in name order with no sort, read from the index alone,
+  -- also the combo of active companies and the check for a repeated name
+  KEY ix_empresas_lista (id, emp, est, act, art, selec, suc, dir, tel, ciu, prov, nart),
   KEY ix_empresas_est_emp (est, emp)
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_unicode_ci;
 
@@ -220,9 +223,9 @@ CREATE TABLE IF NOT EXISTS Sucursales (
   tel VARCHAR(10) NOT NULL DEFAULT '',
   est INT NOT NULL DEFAULT 1,
   PRIMARY KEY (cod),
-  KEY ix_sucursales_id_emp (id, emp),
+  KEY ix_sucursales_id_emp_est (id, emp, est),  -- the company's branches: renamed with it, any active
   KEY ix_sucursales_est_emp (est, emp),
-  KEY ix_sucursales_id_ciu_nom (id, ciu, nom)
+  KEY ix_sucursales_lista (id, ciu, nom, est, emp, dir, tel)  -- the list (est<>0) in order, from the index alone
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_unicode_ci;
 
 CREATE TABLE IF NOT EXISTS SubProveedor (
@@ -235,7 +238,7 @@ CREATE TABLE IF NOT EXISTS SubProveedor (
   dir  VARCHAR(100) NOT NULL DEFAULT '',
   est  INT NOT NULL DEFAULT 1,
   PRIMARY KEY (cod),
-  KEY ix_subproveedor_id_cin (id, cin),
+  KEY ix_subproveedor_lista (id, cin, est, ruc, raz, dir),  -- the list (est<>0) in order, from the index alone
   KEY ix_subproveedor_prov (prov)
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_unicode_ci;
 
@@ -254,10 +257,12 @@ CREATE TABLE IF NOT EXISTS mCliente (
   lug VARCHAR(50) NOT NULL DEFAULT '',
   PRIMARY KEY (cod),
   KEY ix_mcliente_id_ciu (id, ciu),
-  KEY ix_mcliente_cat (cat),
+  KEY ix_mcliente_id_cat (id, cat),  -- whether the category is in use in this tenant
   KEY ix_mcliente_tip_id (tip, id),
-  KEY ix_mcliente_id_zon_lug (id, zon, lug),
-  KEY ix_mcliente_id_lug (id, lug)
+  KEY ix_mcliente_id_zon (id, zon),  -- whether the zone is in use in this tenant
+  -- a place renamed: its customers found (and locked) through this one index
+  -- alone, and whether the place is in use
+  KEY ix_mcliente_id_lug_zon (id, lug, zon)
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_unicode_ci;
 
 CREATE TABLE IF NOT EXISTS mvendedor (
@@ -268,7 +273,7 @@ CREATE TABLE IF NOT EXISTS mvendedor (
   car  INT NOT NULL DEFAULT 0,
   PRIMARY KEY (cod),
   KEY ix_mvendedor_id_depa (id, depa),
-  KEY ix_mvendedor_car (car)
+  KEY ix_mvendedor_id_car (id, car)  -- whether the position is in use in this tenant
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_unicode_ci;
 
 CREATE TABLE IF NOT EXISTS mArticulo (
@@ -307,7 +312,7 @@ CREATE TABLE IF NOT EXISTS martexpira (
   pro INT NULL DEFAULT NULL,
   est INT NOT NULL DEFAULT 1,
   PRIMARY KEY (cod),
-  KEY ix_martexpira_art_bod (art, bod),
+  KEY ix_martexpira_art_bod_lot (art, bod, lot),  -- an article's lots in one store, in lot order
   KEY ix_martexpira_art_lot (art, lot)
 ) ENGINE=InnoDB DEFAULT CHARSET=utf8mb4 COLLATE=utf8mb4_unicode_ci;
 

@@ -81,7 +81,9 @@ void frmListaFechasIVA::Form_Load()
         grillas_ = std::make_unique<clsGrillas>();
     operacion([&] {
         grillas_->LlenarGrilla(M().Conexion, GR,
-                               u"SELECT fec FROM FechaIVAdif WHERE  id=? and year(fec)=year(curdate()) ORDER BY fec"_s,
+                               // This year's dates as a range on fec, so the index serves it.
+                               u"SELECT fec FROM FechaIVAdif WHERE  id=? and fec>=MAKEDATE(year(curdate()),1) "
+                               u"and fec<MAKEDATE(year(curdate())+1,1) ORDER BY fec"_s,
                                {M().IdEmp}, u"fec"_s, false, true);
     });
     M().HuboCambios = false;
