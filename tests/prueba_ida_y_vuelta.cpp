@@ -118,7 +118,14 @@ void insertar(QSqlDatabase& db, const QString& tabla, const QString& columnas, c
 
 void llenar(QSqlDatabase& db)
 {
-    // The host's text columns are wider than the boxes.
+    // The host's text columns are wider than the boxes. Such a host keeps
+    // indexes of its own: the covering ones of our schema would pass the
+    // length of a key, and the round trip does not depend on them.
+    for (const QString& f : filas(db, u"SELECT DISTINCT TABLE_NAME, INDEX_NAME FROM information_schema.STATISTICS "
+                                      "WHERE TABLE_SCHEMA=DATABASE() AND NON_UNIQUE=1"_s)) {
+        const QStringList t = f.split(u'|');
+        ejecutarSql(db, u"ALTER TABLE `%1` DROP INDEX `%2`"_s.arg(t[0], t[1]));
+    }
     for (const QString& f : filas(db, u"SELECT TABLE_NAME, COLUMN_NAME FROM information_schema.COLUMNS WHERE "
                                       "TABLE_SCHEMA=DATABASE() AND DATA_TYPE='varchar' AND COLUMN_NAME<>'id'"_s)) {
         const QStringList t = f.split(u'|');
