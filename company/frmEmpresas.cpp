@@ -235,11 +235,15 @@ bool frmEmpresas::Escribir()
     } else {
         // The company and the name of its branches change together or not at all.
         Transaccion transaccion(db);
+        // The branches carry the name the company has now: another clerk may
+        // have renamed it since this one picked it.
+        const QVariant nombre = consultarValor(db, u"SELECT emp FROM empresas WHERE cod=? AND id=? FOR UPDATE"_s,
+                                               {CodigoActual, idEmp});
         ejecutar(db,
                  u"UPDATE empresas SET emp=?,suc=?, act=?, selec=?, art=?, dir=?,tel=?,ciu=?,prov=?, nart=? "
                  u"WHERE cod=? AND id=?"_s,
                  {T(0), sucursales, actividad, servicios, artesano, T(2), T(3), T(4), T(5), T(6), CodigoActual, idEmp});
-        ejecutar(db, u"UPDATE sucursales SET emp=? WHERE id=? AND emp=?"_s, {T(0), idEmp, NombreAnterior});
+        ejecutar(db, u"UPDATE sucursales SET emp=? WHERE id=? AND emp=?"_s, {T(0), idEmp, nombre.isNull() ? NombreAnterior : nombre.toString()});
         transaccion.confirmar();
     }
 

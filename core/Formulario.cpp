@@ -1,6 +1,7 @@
 #include "core/Formulario.h"
 
 #include "core/BaseDatos.h"
+#include "core/Conflictos.h"
 #include "core/Controles.h"
 #include "core/Mensajes.h"
 
@@ -72,7 +73,7 @@ void Formulario::done(int resultado)
 bool Formulario::operacion(const std::function<void()>& paso)
 {
     try {
-        paso();
+        conReintentos(paso);
         return true;
     } catch (const ErrorBD& error) {
         mostrarErrorBD(this, error);
