@@ -106,79 +106,66 @@ bool igualesEnTodos(QStringList* filasNodo1 = nullptr)
 
 const QString guardada = u"La información se ha guardado con éxito!"_s;
 
-// One clerk's work through a dialog, `veces` times; what differs between
-// clerks is `n`. Each entry opens its dialog with the clerk's connection.
-using Trabajo = std::function<void(clsNomencla&, QSqlDatabase&, int n, int veces)>;
-
-void categorias(clsNomencla& biblioteca, QSqlDatabase& db, int n, int veces)
+// One clerk's work: the dialog `forma`, opened by `metodo` with the clerk's
+// connection, and `paso` done in it `veces` times; what differs between
+// clerks is n.
+// Tx(0) given `texto`, then the save button.
+void guardarCon(QWidget* d, const QString& texto)
 {
-    alAbrir(u"frmLsCategorias"_s, [=](QWidget* d) {
-        for (int i = 0; i < veces; ++i) {
-            tx(d, 0)->setText(u"Oficinista %1 categoría %2"_s.arg(n).arg(i));
-            pulsar(d, u"Bt(0)"_s);
-        }
-    });
-    biblioteca.CategoriaClientes(u"1"_s, db);
+    tx(d, 0)->setText(texto);
+    pulsar(d, u"Bt(0)"_s);
 }
 
-// Company 2 renamed with its branches, picked afresh before each rename.
-void empresa(clsNomencla& biblioteca, QSqlDatabase& db, int n, int veces)
-{
-    alAbrir(u"frmEmpresas"_s, [=](QWidget* d) {
-        auto* gr = control<Alfarje>(d, u"GR"_s);
-        for (int i = 0; i < veces; ++i) {
-            dobleClic(gr, filaCon(gr, u"2"_s, 6));
-            tx(d, 0)->setText(u"Comercial %1-%2"_s.arg(n).arg(i));
-            pulsar(d, u"Bt(0)"_s);
-        }
-    });
-    biblioteca.Empresas(u"1"_s, db);
-}
-
-// The place of zone Norte renamed with its customers.
-void lugar(clsNomencla& biblioteca, QSqlDatabase& db, int n, int veces)
-{
-    alAbrir(u"frmLsZona"_s, [=](QWidget* d) {
-        auto* gr = control<Alfarje>(d, u"GR"_s);
-        auto* gr2 = control<Alfarje>(d, u"GR2"_s);
-        for (int i = 0; i < veces; ++i) {
-            dobleClic(gr, filaCon(gr, u"Norte"_s));
-            // The place is picked by the clerk's own click: the dialog active.
-            d->activateWindow();
-            if (!QTest::qWaitForWindowActive(d))
-                qWarning("the zone dialog is not active");
-            QTest::mouseClick(gr2->viewport(), Qt::LeftButton, {},
-                              gr2->visualRect(gr2->model()->index(0, 0)).center());
-            if (tx(d, 2)->text().isEmpty())
-                qWarning("no place picked");
-            tx(d, 2)->setText(u"Lugar %1-%2"_s.arg(n).arg(i));
-            tx(d, 3)->setText(u"1"_s);
-            pulsar(d, u"Bt(5)"_s);
-        }
-    });
-    biblioteca.ZonaClientes(u"1"_s, db);
-}
-
-// New zones, each with two places, in one save.
-void zonas(clsNomencla& biblioteca, QSqlDatabase& db, int n, int veces)
-{
-    alAbrir(u"frmLsZona"_s, [=](QWidget* d) {
-        for (int i = 0; i < veces; ++i) {
-            tx(d, 0)->setText(u"Zona %1-%2"_s.arg(n).arg(i));
-            for (const char* letra : {"a", "b"}) {
-                tx(d, 2)->setFocus();
-                tx(d, 2)->setText(u"Lugar %1-%2%3"_s.arg(n).arg(i).arg(QLatin1String(letra)));
-                tecla(tx(d, 2), Qt::Key_Return);
-                tecla(tx(d, 3), Qt::Key_Return);
-            }
-            pulsar(d, u"Bt(0)"_s);
-        }
-    });
-    biblioteca.ZonaClientes(u"1"_s, db);
-}
+struct Trabajo {
+    QString forma;
+    bool (clsNomencla::*metodo)(const QString&, QSqlDatabase&);
+    std::function<void(QWidget* d, int n, int i)> paso;
+};
 
 const QMap<QString, Trabajo> trabajos{
-    {u"categorias"_s, categorias}, {u"empresa"_s, empresa}, {u"lugar"_s, lugar}, {u"zonas"_s, zonas}};
+    {u"categorias"_s,
+     {u"frmLsCategorias"_s, &clsNomencla::CategoriaClientes,
+      [](QWidget* d, int n, int i) { guardarCon(d, u"Oficinista %1 categoría %2"_s.arg(n).arg(i)); }}},
+    // Company 2 renamed with its branches, picked afresh before each rename.
+    {u"empresa"_s,
+     {u"frmEmpresas"_s, &clsNomencla::Empresas,
+      [](QWidget* d, int n, int i) {
+          auto* gr = control<Alfarje>(d, u"GR"_s);
+          dobleClic(gr, filaCon(gr, u"2"_s, 6));
+          guardarCon(d, u"Comercial %1-%2"_s.arg(n).arg(i));
+      }}},
+    // The place of zone Norte renamed with its customers.
+    {u"lugar"_s,
+     {u"frmLsZona"_s, &clsNomencla::ZonaClientes,
+      [](QWidget* d, int n, int i) {
+          auto* gr = control<Alfarje>(d, u"GR"_s);
+          auto* gr2 = control<Alfarje>(d, u"GR2"_s);
+          dobleClic(gr, filaCon(gr, u"Norte"_s));
+          // The place is picked by the clerk's own click: the dialog active.
+          d->activateWindow();
+          if (!QTest::qWaitForWindowActive(d))
+              qWarning("the zone dialog is not active");
+          QTest::mouseClick(gr2->viewport(), Qt::LeftButton, {}, gr2->visualRect(gr2->model()->index(0, 0)).center());
+          if (tx(d, 2)->text().isEmpty())
+              qWarning("no place picked");
+          tx(d, 2)->setText(u"Lugar %1-%2"_s.arg(n).arg(i));
+          tx(d, 3)->setText(u"1"_s);
+          pulsar(d, u"Bt(5)"_s);
+      }}},
+    // A new zone with two places, in one save.
+    {u"zonas"_s,
+     {u"frmLsZona"_s, &clsNomencla::ZonaClientes,
+      [](QWidget* d, int n, int i) {
+          tx(d, 0)->setText(u"Zona %1-%2"_s.arg(n).arg(i));
+          for (const char* letra : {"a", "b"}) {
+              tx(d, 2)->setFocus();
+              tx(d, 2)->setText(u"Lugar %1-%2%3"_s.arg(n).arg(i).arg(QLatin1String(letra)));
+              tecla(tx(d, 2), Qt::Key_Return);
+              tecla(tx(d, 3), Qt::Key_Return);
+          }
+          pulsar(d, u"Bt(0)"_s);
+      }}},
+};
 
 // The clerk's process: "oficinista TRABAJO NODO N VECES". Prints the error
 // boxes it met and the conflicts the library ran again.
@@ -191,7 +178,13 @@ int oficinista(int argc, char** argv)
         QSqlDatabase db = conectarNodo(a.value(3).toInt(), u"oficinista"_s);
         clsNomencla biblioteca;
         Cajas cajas;
-        trabajos.value(a.value(2))(biblioteca, db, a.value(4).toInt(), a.value(5).toInt());
+        const Trabajo t = trabajos.value(a.value(2));
+        const int n = a.value(4).toInt(), veces = a.value(5).toInt();
+        alAbrir(t.forma, [&](QWidget* d) {
+            for (int i = 0; i < veces; ++i)
+                t.paso(d, n, i);
+        });
+        (biblioteca.*t.metodo)(u"1"_s, db);
         for (const Caja& c : std::as_const(cajas.vistas))
             if (c.titulo == u"Error de base de datos"_s) {
                 ++errores;
