@@ -31,10 +31,57 @@ bool esNodoFueraDelGrupo(const QSqlError& error)
     return error.nativeErrorCode() == u"1047"_s;
 }
 
+namespace {
+
+// While it lives, the reads of the session on a Galera node are causal: each
+// waits until the node has applied every write the cluster committed before
+// it, so that a run again reads what won (a node behind the others would hand
+// out the same MAX(cod)+1 again). Elsewhere, or when the setting fails, it
+// does nothing: the run again meets the same failure and tells it.
+class LecturaCausal {
+public:
+    explicit LecturaCausal(QSqlDatabase db) : db_(std::move(db))
+    {
+        const QString driver = db_.isValid() ? db_.driverName() : QString();
+        if (!db_.isOpen() || !(driver.startsWith(u"QMYSQL"_s) || driver.startsWith(u"QMARIADB"_s)))
+            return;
+        try {
+            QSqlQuery q = ejecutar(db_, u"SELECT @@wsrep_on, @@session.wsrep_sync_wait"_s);
+            if (!q.next() || q.value(0).toInt() != 1 || (q.value(1).toInt() & 1) != 0)
+                return;
+            antes_ = q.value(1).toLongLong();
+            ejecutar(db_, u"SET SESSION wsrep_sync_wait=1"_s);
+            activa_ = true;
+        } catch (const ErrorBD&) {
+        }
+    }
+    ~LecturaCausal()
+    {
+        if (!activa_)
+            return;
+        try {
+            ejecutar(db_, u"SET SESSION wsrep_sync_wait=?"_s, {antes_});
+        } catch (const ErrorBD&) {
+            // A connection lost meanwhile starts afresh with the server's setting.
+        }
+    }
+    LecturaCausal(const LecturaCausal&) = delete;
+    LecturaCausal& operator=(const LecturaCausal&) = delete;
+
+private:
+    QSqlDatabase db_;
+    qint64 antes_ = 0;
+    bool activa_ = false;
+};
+
+} // namespace
+
 void conReintentos(const std::function<void()>& operacion, int intentos)
 {
+    QSqlDatabase conexion; // the one the last conflict came from
     for (int intento = 1;; ++intento) {
         try {
+            const LecturaCausal causal(conexion);
             operacion();
             return;
         } catch (const ErrorBD& e) {
@@ -43,9 +90,9 @@ void conReintentos(const std::function<void()>& operacion, int intentos)
             ++conflictos;
             if (intento >= intentos)
                 throw;
+            conexion = e.conexion();
         }
-        // The sessions that met are apart again after a pause of their own,
-        // which also lets this node apply the write that won.
+        // The sessions that met are apart again after a pause of their own.
         const int tope = std::min(10 << intento, 250);
         QThread::msleep(QRandomGenerator::global()->bounded(tope / 4, tope + 1));
     }

@@ -20,7 +20,7 @@ namespace nomencla {
 class ErrorBD;
 
 // How many times in all an operation is run before its conflict is shown.
-constexpr int intentosPorConflicto = 8;
+constexpr int intentosPorConflicto = 12;
 
 // The database refused the operation for a concurrent write elsewhere.
 bool esConflicto(const ErrorBD& error);
