@@ -8,7 +8,12 @@
 // Usage: nomencla-bench --socket PATH [--max N] [--reps R] [--naive-max N]
 //        nomencla-bench --socket PATH --operaciones [--reps R] [--vecinos-grandes N] [--sin-1m-grandes]
 //        (the operations of a dialog as the tenants grow: bench/operaciones.cpp)
+// With --cluster NODE_SOCKET it measures instead a save and a list fill on
+// the server of --socket and on the cluster node, as a ratio (medirCluster).
 #include "core/Alfarje.h"
+#include "core/BaseDatos.h"
+#include "core/Conflictos.h"
+#include "core/clsGrillas.h"
 #include "core/ModeloAlfarje.h"
 #include "core/Plegado.h"
 
@@ -279,6 +284,87 @@ void medirDialogo(QSqlDatabase& bd, int n)
     std::fflush(stdout);
 }
 
+// ------------------------------------------------------------ on a cluster
+// A save and a list fill through the library, on the single server and on a
+// node of a Galera cluster in the same run (--cluster SOCKET): the cluster's
+// cost is the certification of each commit by every node.
+
+// Connection `nombre` to `socket`, in the database nomencla_bench_galera
+// (created when missing).
+QSqlDatabase conectarBase(const QString& socket, const QString& nombre)
+{
+    {
+        QSqlDatabase bd = QSqlDatabase::addDatabase(u"QMYSQL"_s, nombre);
+        bd.setConnectOptions(u"UNIX_SOCKET="_s + socket);
+        bd.setUserName(u"root"_s);
+        if (!bd.open())
+            fallar(u"conexión a "_s + socket, bd.lastError());
+        ejecutar(bd, u"CREATE DATABASE IF NOT EXISTS nomencla_bench_galera CHARACTER SET utf8mb4"
+                     " COLLATE utf8mb4_unicode_ci"_s);
+        bd.close();
+    }
+    QSqlDatabase bd = QSqlDatabase::database(nombre, false);
+    bd.setDatabaseName(u"nomencla_bench_galera"_s);
+    if (!bd.open())
+        fallar(u"conexión a "_s + socket, bd.lastError());
+    return bd;
+}
+
+struct Medida {
+    double guardarMs = 0;
+    double llenarMs = 0;
+};
+
+// Median of `veces` category saves (key MAX(cod)+1, in a transaction, as the
+// dialog saves) and of `veces` fills of a list of `filas` rows into the grid.
+Medida medirGuardarYLlenar(QSqlDatabase& bd, int veces, int filas)
+{
+    ejecutar(bd, u"DROP TABLE IF EXISTS mCatClie, lsCiudades"_s);
+    ejecutar(bd, u"CREATE TABLE mCatClie (pk INT NOT NULL AUTO_INCREMENT PRIMARY KEY, id VARCHAR(20) NOT NULL,"
+                 " cod INT NOT NULL, cat VARCHAR(100) NOT NULL, UNIQUE KEY (id, cod)) ENGINE=InnoDB"_s);
+    ejecutar(bd, u"CREATE TABLE lsCiudades (pk INT NOT NULL AUTO_INCREMENT PRIMARY KEY, id VARCHAR(20) NOT NULL,"
+                 " ciu VARCHAR(25), KEY (id, ciu)) ENGINE=InnoDB"_s);
+    ejecutar(bd, u"INSERT INTO lsCiudades (id, ciu) SELECT '1', CONCAT('Ciudad ', seq) FROM seq_1_to_%1"_s.arg(filas));
+    Medida m;
+    int n = 0;
+    m.guardarMs = medianaMs(veces, [&] {
+        nomencla::conReintentos([&] {
+            nomencla::Transaccion t(bd);
+            nomencla::insertarConClaveSiguiente(bd, u"SELECT MAX(cod) FROM mCatClie WHERE id=?"_s, {u"1"_s},
+                                                [&](qint32 clave) {
+                                                    nomencla::ejecutar(bd,
+                                                                       u"INSERT INTO mCatClie (id,cod,cat) VALUES (?,?,?)"_s,
+                                                                       {u"1"_s, clave, u"Categoría %1"_s.arg(++n)});
+                                                });
+            t.confirmar();
+        });
+    });
+    Alfarje g;
+    g.setFormatocolumnas(u"<CIUDAD                  "_s);
+    g.resize(800, 600);
+    g.show();
+    nomencla::clsGrillas grillas;
+    m.llenarMs = medianaMs(veces, [&] {
+        grillas.LlenarGrilla(bd, &g, u"SELECT ciu FROM lsCiudades WHERE id=? ORDER BY ciu"_s, {u"1"_s}, u"ciu"_s);
+    });
+    return m;
+}
+
+int medirCluster(const QString& unico, const QString& nodo, int veces)
+{
+    QSqlDatabase a = conectarBase(unico, u"unico"_s);
+    QSqlDatabase b = conectarBase(nodo, u"nodo"_s);
+    constexpr int filas = 10000;
+    const Medida u = medirGuardarYLlenar(a, veces, filas);
+    const Medida c = medirGuardarYLlenar(b, veces, filas);
+    std::printf("%-28s %12s %12s %8s\n", "median of runs", "server ms", "cluster ms", "ratio");
+    std::printf("%-28s %12.2f %12.2f %8.2f\n", "save (category, new key)", u.guardarMs, c.guardarMs,
+                c.guardarMs / u.guardarMs);
+    std::printf("%-28s %12.2f %12.2f %8.2f\n", qPrintable(u"list fill (%1 rows)"_s.arg(filas)), u.llenarMs,
+                c.llenarMs, c.llenarMs / u.llenarMs);
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -299,6 +385,9 @@ int main(int argc, char** argv)
 
     if (args.contains(u"--operaciones"_s))
         return medirOperaciones(g_socket, args);
+    const QString nodo = opcion(u"--cluster"_s, QString());
+    if (!nodo.isEmpty())
+        return medirCluster(g_socket, nodo, std::max(1, opcion(u"--reps"_s, u"50"_s).toInt()));
 
     const QString hijo = opcion(u"--hijo"_s, QString());
     if (!hijo.isEmpty()) {

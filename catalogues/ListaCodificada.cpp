@@ -218,6 +218,8 @@ void ListaCodificada::Guardar()
     QSqlDatabase& db = M().Conexion;
     const qint32 anterior = CodigoActual;
     const bool hecho = operacion([&] {
+        // A run again after a conflict starts from the mode of the fields.
+        CodigoActual = anterior;
         // Each retry of a key must see the other clerk's row, so the save
         // reads committed data, not the snapshot of its first read.
         const QString driver = db.driverName();

@@ -63,6 +63,7 @@ const auto sqlLugares = u"SELECT lug,cod FROM mZonaLugar WHERE  id=? AND EST=1 A
 const auto sqlLugarPendiente = u"INSERT INTO mZonaLugar (ID,zon,lug,est) VALUES (?,?,?,1)"_s;
 const auto sqlLugarNuevo = u"INSERT INTO mZonaLugar (id,zon,lug,est,ord) VALUES (?,?,?,1,?)"_s;
 const auto sqlLugarActualizar = u"UPDATE mZonaLugar SET lug=?, ord=? WHERE cod=? AND id=?"_s;
+const auto sqlLugarNombre = u"SELECT lug FROM mZonaLugar WHERE cod=? AND id=? FOR UPDATE"_s;
 const auto sqlLugarClientes = u"UPDATE mCliente SET lug=? WHERE  id=? AND lug=? and zon=?"_s;
 const auto sqlClientesDelLugar = u"SELECT EXISTS(SELECT cod FROM mCliente WHERE  id=? AND lug=?) AS tot"_s;
 const auto sqlLugarQuitar = u"UPDATE mZonalugar SET est=0 WHERE cod=? AND id=?"_s;
@@ -279,8 +280,12 @@ void frmLsZona::GuardarLugar()
         const QString anterior = Tx2_->Tag().trimmed();
         if (!operacion([&] {
                 Transaccion transaccion(db);
+                // The customers carry the name the place has now: another
+                // clerk may have renamed it since this one picked it.
+                const QVariant nombre = consultarValor(db, sqlLugarNombre, {qint64(CodigoLugar), M().IdEmp});
                 ejecutar(db, sqlLugarActualizar, {t2, ordinal, qint64(CodigoLugar), M().IdEmp});
-                ejecutar(db, sqlLugarClientes, {t2, M().IdEmp, anterior, qint64(CodigoActual)});
+                ejecutar(db, sqlLugarClientes,
+                         {t2, M().IdEmp, nombre.isNull() ? anterior : nombre.toString(), qint64(CodigoActual)});
                 transaccion.confirmar();
             }))
             return;

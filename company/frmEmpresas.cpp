@@ -240,6 +240,10 @@ bool frmEmpresas::Escribir()
     } else {
         // The company and the name of its branches change together or not at all.
         Transaccion transaccion(db);
+        // The branches carry the name the company has now: another clerk may
+        // have renamed it since this one picked it.
+        const QVariant nombre = consultarValor(db, u"SELECT emp FROM empresas WHERE cod=? AND id=? FOR UPDATE"_s,
+                                               {CodigoActual, idEmp});
         ejecutar(db,
                  u"UPDATE empresas SET emp=?,suc=?, act=?, selec=?, art=?, dir=?,tel=?,ciu=?,prov=?, nart=? "
                  u"WHERE cod=? AND id=?"_s,
@@ -247,8 +251,9 @@ bool frmEmpresas::Escribir()
                   valorTx(5), valorTx(6), CodigoActual, idEmp});
         // The branches follow a new name (those written as the old one in
         // another case too); a name left as it was rewrites none of them.
-        if (valorTx(0).toString() != NombreAnterior)
-            ejecutar(db, u"UPDATE sucursales SET emp=? WHERE id=? AND emp=?"_s, {valorTx(0), idEmp, NombreAnterior});
+        const QString anterior = nombre.isNull() ? NombreAnterior : nombre.toString();
+        if (valorTx(0).toString() != anterior)
+            ejecutar(db, u"UPDATE sucursales SET emp=? WHERE id=? AND emp=?"_s, {valorTx(0), idEmp, anterior});
         transaccion.confirmar();
     }
 

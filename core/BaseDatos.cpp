@@ -152,8 +152,10 @@ qint32 insertarConClaveSiguiente(QSqlDatabase& db, const QString& sqlMaximo, con
             insertar(clave);
             return clave;
         } catch (const ErrorBD& e) {
-            if (!esClaveDuplicada(e.error()) || intento >= intentos)
+            if (!esClaveDuplicada(e.error()))
                 throw;
+            if (intento >= intentos)
+                throw ClaveTomada(e);
         }
     }
 }

@@ -75,11 +75,19 @@ private:
 // Keys numbered by the program per tenant: asks `sqlMaximo` (MAX(cod) with
 // its filter), takes Null as 0, adds 1 and calls `insertar` with the key. A
 // duplicate-key failure (two clerks at once; the table has UNIQUE (id,cod))
-// is retried with a fresh maximum, up to `intentos` times. Returns the key.
-// When the maximum is already the largest INT there is no next key: ErrorBD,
-// with a message for the clerk, before `insertar` is called.
+// is retried with a fresh maximum, up to `intentos` times, then thrown as
+// ClaveTomada. Returns the key. When the maximum is already the largest INT
+// there is no next key: ErrorBD, with a message for the clerk, before
+// `insertar` is called.
 qint32 insertarConClaveSiguiente(QSqlDatabase& db, const QString& sqlMaximo,
                                  const QVariantList& valoresMaximo,
                                  const std::function<void(qint32)>& insertar, int intentos = 20);
+
+// The key numbered by insertarConClaveSiguiente was taken by another session
+// at every try: a conflict, which the whole operation may be run again for.
+class ClaveTomada : public ErrorBD {
+public:
+    explicit ClaveTomada(const ErrorBD& error) : ErrorBD(error) {}
+};
 
 } // namespace nomencla

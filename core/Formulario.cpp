@@ -2,6 +2,7 @@
 
 #include "core/Alfarje.h"
 #include "core/BaseDatos.h"
+#include "core/Conflictos.h"
 #include "core/Controles.h"
 #include "core/Mensajes.h"
 
@@ -74,7 +75,7 @@ void Formulario::done(int resultado)
 bool Formulario::operacion(const std::function<void()>& paso)
 {
     try {
-        paso();
+        conReintentos(paso);
         return true;
     } catch (const ErrorBD& error) {
         mostrarErrorBD(this, error);

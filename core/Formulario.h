@@ -33,9 +33,12 @@ public:
     bool cargado() const { return lienzo_ != nullptr; }
     bool keyPreview() const { return keyPreview_; }
 
-    // Runs one user operation (a save, a removal, a fill): a database failure
-    // is shown in a critical box and ends the operation; the dialog stays open
-    // and usable. Returns false when the operation failed.
+    // Runs one user operation (a save, a removal, a fill): a conflict with
+    // another session's write runs it again from its start (conReintentos),
+    // so `paso` must be safe to run again; any other database failure, or a
+    // conflict that outlasts the tries, is shown in a critical box and ends
+    // the operation; the dialog stays open and usable. Returns false when the
+    // operation failed.
     bool operacion(const std::function<void()>& paso);
 
 protected:

@@ -1,6 +1,7 @@
 #include "core/Mensajes.h"
 
 #include "core/BaseDatos.h"
+#include "core/Conflictos.h"
 
 #include <QAbstractButton>
 #include <QMessageBox>
@@ -49,6 +50,13 @@ void mostrarErrorBD(QWidget* padre, const ErrorBD& error)
             + (otraVez ? u"La conexión se restableció: revise los datos y repita la operación."_s
                        : u"No se pudo restablecer la conexión: cierre esta ventana e intente más tarde."_s)
             + u"\n\n"_s + texto;
+    } else if (esNodoFueraDelGrupo(error.error())) {
+        texto = u"El servidor de la base de datos al que está conectado se separó de los demás servidores del grupo "
+                "y no acepta operaciones; la operación no se hizo.\nIntente más tarde o conéctese a otro servidor."
+                "\n\n"_s + texto;
+    } else if (esConflicto(error)) {
+        texto = u"Otros usuarios modificaban los mismos datos al mismo tiempo y la operación no se pudo completar "
+                "tras varios intentos; no se guardó nada.\nRepita la operación en unos momentos.\n\n"_s + texto;
     }
     MsgBox(padre, texto, estilo::Critico, u"Error de base de datos"_s);
 }

@@ -6,6 +6,7 @@ NOMENCLA_PACKAGES=(
   qt6-base-dev qt6-base-dev-tools
   libqt6sql6-mysql libqt6sql6-sqlite
   mariadb-server mariadb-client
+  galera-4 mariadb-backup socat iproute2
   libgl-dev
 )
 

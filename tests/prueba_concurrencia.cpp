@@ -3,6 +3,8 @@
 #include "tests/support/Prueba.h"
 
 #include "core/BaseDatos.h"
+#include "core/Conflictos.h"
+#include "core/Mensajes.h"
 
 #include <QThread>
 #include <atomic>
@@ -46,6 +48,49 @@ private Q_SLOTS:
         // As many rows as inserts, each with its own key, numbered without gaps.
         QCOMPARE(filas(db, u"SELECT COUNT(*), COUNT(DISTINCT cod), MAX(cod) FROM mCatClie WHERE id='1'"_s),
                  QStringList{u"%1|%1|%1"_s.arg(2 * porEmpleado)});
+    }
+
+    void reintentos_data()
+    {
+        QTest::addColumn<QString>("codigo");
+        QTest::addColumn<bool>("claveNumerada"); // thrown as insertarConClaveSiguiente gives up
+        QTest::addColumn<int>("fallos");         // before the run that works
+        QTest::addColumn<int>("corridas");       // runs made
+        QTest::addColumn<QString>("caja");       // the start of the box's text when it fails ("" when it does not)
+        QTest::newRow("deadlock, then done") << u"1213"_s << false << 3 << 4 << QString();
+        QTest::newRow("deadlock every time") << u"1213"_s << false << 99 << intentosPorConflicto << u"Otros usuarios"_s;
+        QTest::newRow("numbered key taken, then done") << u"1062"_s << true << 2 << 3 << QString();
+        QTest::newRow("duplicate of the data") << u"1062"_s << false << 99 << 1 << u"driver"_s;
+        QTest::newRow("node out of the group") << u"1047"_s << false << 99 << 1 << u"El servidor de la base"_s;
+        QTest::newRow("lock wait timeout") << u"1205"_s << false << 99 << 1 << u"driver"_s;
+    }
+
+    // What is run again and what is shown, as the server's code says.
+    void reintentos()
+    {
+        QFETCH(QString, codigo);
+        QFETCH(bool, claveNumerada);
+        QFETCH(int, fallos);
+        QFETCH(int, corridas);
+        QFETCH(QString, caja);
+        const ErrorBD error(QSqlError(u"driver"_s, codigo == u"1062"_s ? u"Duplicate entry"_s : u"Lock wait or other"_s,
+                                      QSqlError::StatementError, codigo));
+        int n = 0;
+        Cajas cajas;
+        try {
+            conReintentos([&] {
+                if (++n <= fallos) {
+                    if (claveNumerada)
+                        throw ClaveTomada(error);
+                    throw error;
+                }
+            });
+            QVERIFY(caja.isEmpty());
+        } catch (const ErrorBD& e) {
+            mostrarErrorBD(nullptr, e);
+            QVERIFY2(cajas.ultima().startsWith(caja) && !caja.isEmpty(), qPrintable(cajas.ultima()));
+        }
+        QCOMPARE(n, corridas);
     }
 };
 
