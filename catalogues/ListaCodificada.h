@@ -13,6 +13,7 @@
 // despuesDe... hooks (what follows a pick, a save or Nuevo).
 #include "core/Formulario.h"
 #include "core/Sentencia.h"
+#include "core/frmImportar.h"
 
 #include <QVariantList>
 
@@ -44,6 +45,7 @@ struct DatosListaCodificada {
     QString bannerNuevo;
     QString bannerExistente;
     int campoConfirmar = 0;   // the Tx whose text the removal question names
+    bool importable = false;  // the grid's menu imports records from a CSV file (members without extra fields)
     // Statements. Values: V0 first text and V1 second text (both trimmed),
     // V2 CodigoActual, V3... what the member's valoresExtra gives.
     Sentencia lista;
@@ -60,7 +62,7 @@ struct DatosListaCodificada {
     QString msgConfirmar;
 };
 
-class ListaCodificada : public Formulario {
+class ListaCodificada : public Formulario, public ListaImportable {
     Q_OBJECT
 public:
     explicit ListaCodificada(const DatosListaCodificada& datos);
@@ -107,6 +109,14 @@ private:
     Pulsante* Bt_[4] = {};
     QVariantList valores() const;
     void modo(bool nuevo);
+    // Why the first text cannot be saved; empty when it can.
+    QString rechazoTexto0(const QString& t0) const;
+    // Inserts a new record from the statements' values (V2 takes the new
+    // key); returns the key.
+    qint32 insertarNuevo(QVariantList v);
+    QString rechazoImportacion(const QStringList& valores) const override;
+    void insertarImportados(const QList<QStringList>& filas) override;
+    void trasImportar() override;
 };
 
 } // namespace nomencla
