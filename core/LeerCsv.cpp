@@ -82,12 +82,13 @@ QChar separador(QStringView texto, int columnas)
 {
     static constexpr char16_t candidatos[] = {u';', u'\t', u','};
     QChar mejor = candidatos[0];
-    int mas = 0;
+    int mas = 1;
     for (char16_t c : candidatos) {
         const int n = camposPrimeraLinea(texto, c);
-        if (n == columnas)
+        if (n > 1 && n == columnas)
             return c;
-        if (n > mas) {
+        // In a list of one column a comma is part of the name ("Quito, Pichincha").
+        if (n > mas && !(c == u',' && columnas == 1)) {
             mas = n;
             mejor = c;
         }

@@ -16,7 +16,8 @@ bool decodificar(const QByteArray& bytes, QString& texto, QString* codificacion 
 
 // The separator of a file whose lines should have `columnas` fields: the one
 // (';', tab, ',' in that order of preference) that splits the first line
-// into that many fields, else the one that splits it into most.
+// into that many, else the one that splits it into most. In a file of one
+// column, a comma is text.
 QChar separador(QStringView texto, int columnas);
 
 struct Registro {

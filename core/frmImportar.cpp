@@ -4,6 +4,7 @@
 #include "core/BaseDatos.h"
 #include "core/Controles.h"
 #include "core/Mensajes.h"
+#include "core/Plegado.h"
 #include "core/Pulsante.h"
 
 #include <QDir>
@@ -32,24 +33,21 @@ QString clave(QStringView texto)
     return texto.first(n).toString().toCaseFolded();
 }
 
-// A title as a header line of the file may write it: no blanks, any case.
 QString sinBlancos(const QString& texto)
 {
     QString r;
     for (QChar c : texto)
         if (!c.isSpace())
             r += c;
-    return r.toCaseFolded();
+    return r;
 }
 
+// The file's first line is its title line when it begins with the grid's
+// first title (blanks, case and accents aside): a name that nobody stores.
 bool esEncabezado(const QStringList& campos, const QStringList& titulos)
 {
-    if (campos.size() > titulos.size())
-        return false;
-    for (qsizetype i = 0; i < campos.size(); ++i)
-        if (sinBlancos(campos[i]) != sinBlancos(titulos[i]))
-            return false;
-    return true;
+    return !campos.isEmpty() && !titulos.isEmpty()
+        && plegado::comparar(sinBlancos(campos.first()), sinBlancos(titulos.first())) == 0;
 }
 
 // What a box keeps of a typed or pasted text: control characters (a tab, a
