@@ -4,9 +4,11 @@
 //   (c) the same rows in a QTableWidget with one item per cell,
 //   (d) search as the user types, per keystroke,
 //   (e, f) first paint and closing of a real dialog (medirDialogo),
-//   (g) peak memory of (a) and (b), each in a process of its own.
+//   (g) peak memory of (a) and (b), each in a process of its own,
+//   (h) export to CSV of 100,000 rows against their fill (medirExportacion).
 // Usage: nomencla-bench --socket PATH [--max N] [--reps R] [--naive-max N]
 #include "core/Alfarje.h"
+#include "core/ExportarGrilla.h"
 #include "core/ModeloAlfarje.h"
 #include "core/Plegado.h"
 
@@ -15,10 +17,13 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QPointer>
 #include <QProcess>
 #include <QTimer>
 #include <QRandomGenerator>
+#include <QSaveFile>
+#include <QTemporaryDir>
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -301,6 +306,29 @@ void medirDialogo(QSqlDatabase& bd, int n)
     std::fflush(stdout);
 }
 
+// Export to CSV of a filled grid, against the fill itself: the whole file
+// written (through a temporary file renamed at the end) must take no longer
+// than the fill of the same rows.
+void medirExportacion(QSqlDatabase& bd, const Conjunto& c, int n, int veces)
+{
+    Alfarje g;
+    g.setFormatocolumnas(c.campos == 1 ? u"<CIUDAD                  "_s
+                                       : u">COD   |<LOTE        |>CANT     |<FECHA     |^E"_s);
+    g.setColumnFormat(2, u"##0.00"_s);
+    g.setColumnFormat(3, u"dd/MM/yyyy"_s);
+    const double llenar = medianaMs(veces, [&] { enGrilla(bd, c, n, g); });
+    QTemporaryDir carpeta;
+    const QString archivo = carpeta.filePath(u"lista.csv"_s);
+    const double exportar = medianaMs(veces, [&] {
+        QSaveFile salida(archivo);
+        if (!salida.open(QIODevice::WriteOnly) || !nomencla::exportar::escribirCsv(&g, salida) || !salida.commit())
+            fallar(u"exportación"_s, QSqlError(salida.errorString()));
+    });
+    std::printf("export %-6s %8d rows: fill %8.1f ms, CSV %8.1f ms (%.2f of the fill), %.1f MB\n", c.nombre, n,
+                llenar, exportar, exportar / llenar, double(QFileInfo(archivo).size()) / (1024 * 1024));
+    std::fflush(stdout);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -412,5 +440,8 @@ int main(int argc, char** argv)
     std::printf("\n");
     for (int n : tamanos)
         medirDialogo(bd, n);
+    std::printf("\n");
+    for (const Conjunto* c : {&kTexto, &kMixto})
+        medirExportacion(bd, *c, std::min(100000, maximo), veces);
     return 0;
 }

@@ -49,6 +49,7 @@ void frmSubProveedor::Disenar(QWidget* lienzo)
     campos->addWidget(crearEtiqueta(lienzo, 2, u"&RUC:"_s, tx1), 0, 0);
     // A tax number that cannot be right is pointed out beside the box, never refused.
     LblRuc = ruc::crearAviso(tx1, lienzo);
+    tx1->setMinimumWidth(tx1->fontMetrics().horizontalAdvance(u"0000000000000"_s) + 16); // all 13 digits, hint or not
     auto* cajaRuc = new QHBoxLayout;
     cajaRuc->addWidget(tx1, 1);
     cajaRuc->addWidget(LblRuc);

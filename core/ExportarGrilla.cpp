@@ -64,17 +64,34 @@ QList<int> columnasVisibles(const Alfarje* grilla)
     return r;
 }
 
-QString celda(const QAbstractItemModel* modelo, int fila, int columna)
+// A cell as the grid shows it: through the column's format, or, in a 0/1
+// flag column, which shows a box, as "Sí" or "No".
+QString celda(const Alfarje* grilla, int fila, int columna, bool marca)
 {
-    const QModelIndex i = modelo->index(fila, columna);
-    const QVariant v = modelo->data(i, Qt::DisplayRole);
-    if (v.isValid())
-        return v.toString();
-    // A 0/1 flag column shows a box, not a text.
-    const QVariant marca = modelo->data(i, Qt::CheckStateRole);
-    if (marca.isValid())
-        return marca.toInt() == Qt::Checked ? u"Sí"_s : u"No"_s;
-    return QString();
+    if (!marca)
+        return grilla->modelo()->textoMostrado(fila, columna);
+    return grilla->model()->data(grilla->model()->index(fila, columna), Qt::CheckStateRole).toInt() == Qt::Checked
+        ? u"Sí"_s
+        : u"No"_s;
+}
+
+// The visible columns with, for each, whether it is a flag column.
+QList<std::pair<int, bool>> columnasConMarca(const Alfarje* grilla)
+{
+    QList<std::pair<int, bool>> r;
+    for (int c : columnasVisibles(grilla))
+        r.append({c, grilla->RowCount() > 0
+                         && grilla->model()->data(grilla->model()->index(0, c), Qt::CheckStateRole).isValid()});
+    return r;
+}
+
+QStringList celdasDe(const Alfarje* grilla, int fila, const QList<std::pair<int, bool>>& columnas)
+{
+    QStringList r;
+    r.reserve(columnas.size());
+    for (const auto& [c, marca] : columnas)
+        r.append(celda(grilla, fila, c, marca));
+    return r;
 }
 
 void agregarLinea(QString& destino, const QStringList& campos, QChar separador, QStringView fin)
@@ -165,29 +182,16 @@ QStringList titulos(const Alfarje* grilla)
     return r;
 }
 
-QStringList celdas(const Alfarje* grilla, int fila)
-{
-    QStringList r;
-    for (int c : columnasVisibles(grilla))
-        r.append(celda(grilla->model(), fila, c));
-    return r;
-}
-
 QString textoTabulado(const Alfarje* grilla, QList<int> filas)
 {
     if (filas.isEmpty())
         for (int f = 0; f < grilla->RowCount(); ++f)
             filas.append(f);
-    const QList<int> columnas = columnasVisibles(grilla);
+    const auto columnas = columnasConMarca(grilla);
     QString r;
     agregarLinea(r, titulos(grilla), u'\t', u"\n");
-    QStringList linea;
-    for (int f : filas) {
-        linea.clear();
-        for (int c : columnas)
-            linea.append(celda(grilla->model(), f, c));
-        agregarLinea(r, linea, u'\t', u"\n");
-    }
+    for (int f : filas)
+        agregarLinea(r, celdasDe(grilla, f, columnas), u'\t', u"\n");
     return r;
 }
 
@@ -204,19 +208,15 @@ void copiar(const Alfarje* grilla)
 
 bool escribirCsv(const Alfarje* grilla, QIODevice& destino)
 {
-    const QList<int> columnas = columnasVisibles(grilla);
+    const auto columnas = columnasConMarca(grilla);
     QString bloque;
     agregarLinea(bloque, titulos(grilla), u';', u"\r\n");
     if (destino.write("\xEF\xBB\xBF", 3) != 3)
         return false;
     // Written in blocks of rows: the text of a long list is never held whole.
-    QStringList linea;
     const int n = grilla->RowCount();
     for (int f = 0; f < n; ++f) {
-        linea.clear();
-        for (int c : columnas)
-            linea.append(celda(grilla->model(), f, c));
-        agregarLinea(bloque, linea, u';', u"\r\n");
+        agregarLinea(bloque, celdasDe(grilla, f, columnas), u';', u"\r\n");
         if (bloque.size() >= 256 * 1024 || f == n - 1) {
             const QByteArray bytes = bloque.toUtf8();
             if (destino.write(bytes) != bytes.size())

@@ -37,8 +37,6 @@ void setImportador(Alfarje* grilla, ImportadorGrilla* importador);
 QString campo(const QString& texto, QChar separador);
 // Titles of the visible columns, in the order they are shown.
 QStringList titulos(const Alfarje* grilla);
-// The cells of row `fila` under those titles, as the grid shows them.
-QStringList celdas(const Alfarje* grilla, int fila);
 
 // The title line and the rows given (all of them when `filas` is empty),
 // tab-separated, one line each.
