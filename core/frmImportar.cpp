@@ -133,6 +133,12 @@ void ListaImportable::importarDesdeCsv(Alfarje* grilla)
         avisar(u"No se pudo leer el archivo\n%1\n\n%2\n\nNo se importó nada."_s.arg(nombre, entrada.errorString()));
         return;
     }
+    // A list to start a company with is far smaller; a larger file is a wrong choice.
+    constexpr qint64 kMayor = 64 * 1024 * 1024;
+    if (entrada.size() > kMayor) {
+        avisar(u"El archivo\n%1\nes demasiado grande para una lista (más de 64 MB).\n\nNo se importó nada."_s.arg(nombre));
+        return;
+    }
     const QByteArray bytes = entrada.readAll();
     QString texto;
     QString codificacion;

@@ -14,6 +14,7 @@
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QLabel>
+#include <QMenu>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
@@ -24,7 +25,7 @@ namespace {
 
 using Metodo = bool (clsNomencla::*)(const QString&, QSqlDatabase&);
 const Metodo kMetodos[] = {&clsNomencla::Ciudades, &clsNomencla::Medidas, &clsNomencla::CategoriaClientes,
-                           &clsNomencla::Paises};
+                           &clsNomencla::Paises, &clsNomencla::Departamentos};
 
 void escribirArchivo(const QString& ruta, const QByteArray& bytes)
 {
@@ -100,6 +101,17 @@ private Q_SLOTS:
         });
         alAbrir(u"frmLsCiudad"_s, [&](QWidget* d) {
             auto* gr = control<Alfarje>(d, u"GR"_s);
+            QStringList enMenu;
+            QTimer::singleShot(50, [&] {
+                if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+                    for (QAction* a : menu->actions())
+                        enMenu.append(a->objectName());
+                    menu->close();
+                }
+            });
+            QContextMenuEvent clic(QContextMenuEvent::Mouse, QPoint(20, 10), gr->viewport()->mapToGlobal(QPoint(20, 10)));
+            QApplication::sendEvent(gr->viewport(), &clic);
+            QCOMPARE(enMenu, (QStringList{u"Copiar"_s, u"ExportarCSV"_s, u"ImportarCSV"_s}));
             gr->setFocus();
             QTest::keyClick(gr, Qt::Key_C, Qt::ControlModifier);
             QCOMPARE(QApplication::clipboard()->text(), u"C I U D A D\nLoja; Sur\n\"Ma\"\"ra\"\nQuito\n"_s);
@@ -194,6 +206,13 @@ private Q_SLOTS:
             << QStringList{u"Rechazada: menos de 6 caracteres"_s, kAgrega, kExiste}
             << u"SELECT nom FROM lsPaises WHERE id='1' ORDER BY nom"_s
             << QStringList{u"Colombia"_s, u"Ecuador"_s};
+        const QString utf16 = u"Ventas\r\nBodega de Quito\r\n"_s;
+        QTest::newRow("departamentos, UTF-16 con BOM")
+            << u"frmLsDepartam"_s << 4 << QString()
+            << QByteArray("\xFF\xFE")
+                   + QByteArray(reinterpret_cast<const char*>(utf16.utf16()), utf16.size() * 2)
+            << QStringList{kAgrega, kAgrega} << u"SELECT depa FROM lsDepartam WHERE id='1' ORDER BY depa"_s
+            << QStringList{u"Bodega de Quito"_s, u"Ventas"_s};
     }
 
     void importar()
