@@ -4,7 +4,8 @@
 //   (c) the same rows in a QTableWidget with one item per cell,
 //   (d) search as the user types, per keystroke,
 //   (e, f) first paint and closing of a real dialog (medirDialogo),
-//   (g) peak memory of (a) and (b), each in a process of its own.
+//   (g) peak memory of (a) and (b), each in a process of its own,
+//   (h) export to CSV of 100,000 rows against their fill (medirExportacion).
 // Usage: nomencla-bench --socket PATH [--max N] [--reps R] [--naive-max N]
 //        nomencla-bench --socket PATH --operaciones [--reps R] [--vecinos-grandes N] [--sin-1m-grandes]
 //        (the operations of a dialog as the tenants grow: bench/operaciones.cpp)
@@ -14,6 +15,7 @@
 #include "core/BaseDatos.h"
 #include "core/Conflictos.h"
 #include "core/clsGrillas.h"
+#include "core/ExportarGrilla.h"
 #include "core/ModeloAlfarje.h"
 #include "core/Plegado.h"
 
@@ -25,10 +27,13 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QPointer>
 #include <QProcess>
 #include <QTimer>
 #include <QRandomGenerator>
+#include <QSaveFile>
+#include <QTemporaryDir>
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -365,6 +370,29 @@ int medirCluster(const QString& unico, const QString& nodo, int veces)
     return 0;
 }
 
+// Export to CSV of a filled grid, against the fill itself: the whole file
+// written (through a temporary file renamed at the end) must take no longer
+// than the fill of the same rows.
+void medirExportacion(QSqlDatabase& bd, const Conjunto& c, int n, int veces)
+{
+    Alfarje g;
+    g.setFormatocolumnas(c.campos == 1 ? u"<CIUDAD                  "_s
+                                       : u">COD   |<LOTE        |>CANT     |<FECHA     |^E"_s);
+    g.setColumnFormat(2, u"##0.00"_s);
+    g.setColumnFormat(3, u"dd/MM/yyyy"_s);
+    const double llenar = medianaMs(veces, [&] { enGrilla(bd, c, n, g); });
+    QTemporaryDir carpeta;
+    const QString archivo = carpeta.filePath(u"lista.csv"_s);
+    const double exportar = medianaMs(veces, [&] {
+        QSaveFile salida(archivo);
+        if (!salida.open(QIODevice::WriteOnly) || !nomencla::exportar::escribirCsv(&g, salida) || !salida.commit())
+            fallar(u"exportación"_s, QSqlError(salida.errorString()));
+    });
+    std::printf("export %-6s %8d rows: fill %8.1f ms, CSV %8.1f ms (%.2f of the fill), %.1f MB\n", c.nombre, n,
+                llenar, exportar, exportar / llenar, double(QFileInfo(archivo).size()) / (1024 * 1024));
+    std::fflush(stdout);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -482,5 +510,8 @@ int main(int argc, char** argv)
     std::printf("\n");
     for (int n : tamanos)
         medirDialogo(bd, n);
+    std::printf("\n");
+    for (const Conjunto* c : {&kTexto, &kMixto})
+        medirExportacion(bd, *c, std::min(100000, maximo), veces);
     return 0;
 }

@@ -20,6 +20,19 @@ using namespace Qt::StringLiterals;
 
 namespace nomencla {
 
+namespace {
+
+// Each retry of a key must see the other clerk's row, so a save reads
+// committed data, not the snapshot of its first read.
+void leerConfirmado(QSqlDatabase& db)
+{
+    const QString driver = db.driverName();
+    if (driver.startsWith(u"QMYSQL"_s) || driver.startsWith(u"QMARIADB"_s))
+        ejecutar(db, u"SET TRANSACTION ISOLATION LEVEL READ COMMITTED"_s);
+}
+
+} // namespace
+
 ListaCodificada::ListaCodificada(const DatosListaCodificada& datos)
     : Formulario(datos.forma, datos.titulo, datos.keyPreview), d_(datos)
 {
@@ -113,6 +126,8 @@ void ListaCodificada::Disenar(QWidget* lienzo)
     GR->setFormatocolumnas(d_.formato);
     GR->setShowrownumbers(true);
     GR->setTotalslineshow(false);
+    if (d_.importable)
+        exportar::setImportador(GR, this);
     // Wide enough for every column of the format, as the user reads a row.
     GR->setMinimumSize(std::max(520, GR->horizontalHeader()->length() + GR->verticalHeader()->sizeHint().width()
                                          + GR->verticalScrollBar()->sizeHint().width() + 2 * GR->frameWidth() + 4),
@@ -205,7 +220,7 @@ void ListaCodificada::modo(bool nuevo)
 void ListaCodificada::Guardar()
 {
     const QString t0 = texto(0).trimmed();
-    if (t0.size() <= 1) { // one character is refused like none
+    if (!rechazoTexto0(t0).isEmpty()) {
         MsgBox(this, d_.msgVacio, estilo::Critico, u"Error"_s);
         return;
     }
@@ -220,24 +235,10 @@ void ListaCodificada::Guardar()
     const bool hecho = operacion([&] {
         // A run again after a conflict starts from the mode of the fields.
         CodigoActual = anterior;
-        // Each retry of a key must see the other clerk's row, so the save
-        // reads committed data, not the snapshot of its first read.
-        const QString driver = db.driverName();
-        if (driver.startsWith(u"QMYSQL"_s) || driver.startsWith(u"QMARIADB"_s))
-            ejecutar(db, u"SET TRANSACTION ISOLATION LEVEL READ COMMITTED"_s);
+        leerConfirmado(db);
         Transaccion transaccion(db);
         if (CodigoActual < 1) {
-            if (!d_.clave.vacia()) {
-                CodigoActual = insertarConClaveSiguiente(db, d_.clave.sql, d_.clave.enlazar(M().IdEmp),
-                                                         [&](qint32 clave) {
-                                                             CodigoActual = clave;
-                                                             ejecutar(db, d_.insertar.sql,
-                                                                      d_.insertar.enlazar(M().IdEmp, valores()));
-                                                         });
-            } else {
-                QSqlQuery q = ejecutar(db, d_.insertar.sql, d_.insertar.enlazar(M().IdEmp, valores()));
-                CodigoActual = q.lastInsertId().toInt();
-            }
+            CodigoActual = insertarNuevo(valores());
         } else {
             ejecutar(db, d_.actualizar.sql, d_.actualizar.enlazar(M().IdEmp, valores()));
         }
@@ -254,6 +255,46 @@ void ListaCodificada::Guardar()
     MsgBox(this, u"La información se ha guardado con éxito!"_s, estilo::Informacion, u"Listo"_s);
     Nuevo();
     despuesDeGuardar();
+}
+
+QString ListaCodificada::rechazoTexto0(const QString& t0) const
+{
+    return motivoLargo(t0, 2, d_.limite0, exportar::titulos(GR).value(0)); // one character is refused like none
+}
+
+qint32 ListaCodificada::insertarNuevo(QVariantList v)
+{
+    QSqlDatabase& db = M().Conexion;
+    if (d_.clave.vacia()) {
+        QSqlQuery q = ejecutar(db, d_.insertar.sql, d_.insertar.enlazar(M().IdEmp, v));
+        return q.lastInsertId().toInt();
+    }
+    return insertarConClaveSiguiente(db, d_.clave.sql, d_.clave.enlazar(M().IdEmp), [&](qint32 clave) {
+        v[2] = qint64(clave);
+        ejecutar(db, d_.insertar.sql, d_.insertar.enlazar(M().IdEmp, v));
+    });
+}
+
+QString ListaCodificada::rechazoImportacion(const QStringList& valores) const
+{
+    const QString r = rechazoTexto0(valores.value(0));
+    return r.isEmpty() ? motivoLargo(valores.value(1), 0, d_.limite1, exportar::titulos(GR).value(1)) : r;
+}
+
+void ListaCodificada::insertarImportados(const QList<QStringList>& filas)
+{
+    QSqlDatabase& db = M().Conexion;
+    leerConfirmado(db);
+    Transaccion transaccion(db);
+    for (const QStringList& fila : filas)
+        insertarNuevo({fila.value(0), fila.value(1), qint64(0)});
+    transaccion.confirmar();
+}
+
+void ListaCodificada::trasImportar()
+{
+    M().HuboCambios = true;
+    operacion([this] { CargarLista(); });
 }
 
 void ListaCodificada::Quitar()

@@ -14,6 +14,7 @@
 #include "core/Controles.h"
 #include "core/Formulario.h"
 #include "core/Sentencia.h"
+#include "core/frmImportar.h"
 
 #include <QHash>
 #include <QVariantList>
@@ -46,6 +47,7 @@ struct DatosListaCodificada {
     QString bannerNuevo;
     QString bannerExistente;
     int campoConfirmar = 0;   // the Tx whose text the removal question names
+    bool importable = false;  // the grid's menu imports records from a CSV file (members without extra fields)
     // Statements. Values: V0 first text and V1 second text (both trimmed),
     // V2 CodigoActual, V3... what the member's valoresExtra gives.
     Sentencia lista;
@@ -62,7 +64,7 @@ struct DatosListaCodificada {
     QString msgConfirmar;
 };
 
-class ListaCodificada : public Formulario {
+class ListaCodificada : public Formulario, public ListaImportable {
     Q_OBJECT
 public:
     explicit ListaCodificada(const DatosListaCodificada& datos);
@@ -117,6 +119,14 @@ private:
     QHash<int, ValorMostrado> mostrados_;
     QVariantList valores() const;
     void modo(bool nuevo);
+    // Why the first text cannot be saved; empty when it can.
+    QString rechazoTexto0(const QString& t0) const;
+    // Inserts a new record from the statements' values (V2 takes the new
+    // key); returns the key.
+    qint32 insertarNuevo(QVariantList v);
+    QString rechazoImportacion(const QStringList& valores) const override;
+    void insertarImportados(const QList<QStringList>& filas) override;
+    void trasImportar() override;
 };
 
 } // namespace nomencla

@@ -33,7 +33,7 @@ void ListaNombrada::Disenar(QWidget* lienzo)
     auto* campos = new QGridLayout(marcoCampos);
     auto* etiqueta = new Etiqueta(d_.etiquetaTexto, marcoCampos);
     etiqueta->setObjectName(u"Label1(1)"_s);
-    Text1 = new CajaTexto(marcoCampos, 60);
+    Text1 = new CajaTexto(marcoCampos, largoTexto);
     Text1->setObjectName(u"Text1"_s);
     Text1->setMinimumWidth(320);
     etiqueta->setBuddy(Text1);
@@ -59,6 +59,8 @@ void ListaNombrada::Disenar(QWidget* lienzo)
     GR->setShowrownumbers(true);
     GR->setTotalslineshow(false);
     GR->setMinimumSize(420, 260);
+    if (d_.importable)
+        exportar::setImportador(GR, this);
     titulo->setBuddy(GR);
     Bt1 = new Pulsante(u"  &Quitar"_s, marcoLista);
     Bt1->setObjectName(u"Bt(1)"_s);
@@ -120,7 +122,7 @@ QVariantList ListaNombrada::valores(const QString& texto) const
 void ListaNombrada::Guardar()
 {
     const QString T = Text1->text().trimmed();
-    if (T.size() < d_.largoMinimo)
+    if (!rechazo(T).isEmpty())
         return; // too short: nothing happens, the text and the pick stay
     // A rename may take another record's text; only a new record is a duplicate.
     if (CodigoActual == 0 && GR->FindRow(T, 0, 0, false) >= 0) {
@@ -142,6 +144,30 @@ void ListaNombrada::Guardar()
     Text1->setText(QString());
     Text1->setFocus();
     sinSeleccion();
+}
+
+QString ListaNombrada::rechazo(const QString& texto) const
+{
+    return motivoLargo(texto, d_.largoMinimo, largoTexto);
+}
+
+QString ListaNombrada::rechazoImportacion(const QStringList& valores) const
+{
+    return rechazo(valores.value(0));
+}
+
+void ListaNombrada::insertarImportados(const QList<QStringList>& filas)
+{
+    Transaccion transaccion(M().Conexion);
+    for (const QStringList& fila : filas)
+        ejecutar(M().Conexion, d_.insertar.sql, d_.insertar.enlazar(M().IdEmp, {fila.value(0), qint64(0)}));
+    transaccion.confirmar();
+}
+
+void ListaNombrada::trasImportar()
+{
+    M().HuboCambios = true;
+    CargarLista();
 }
 
 void ListaNombrada::Quitar()

@@ -4,6 +4,7 @@
 // row picks it for renaming or removal. Banks add their fields to this build.
 #include "core/Formulario.h"
 #include "core/Sentencia.h"
+#include "core/frmImportar.h"
 
 class QGridLayout;
 class QFrame;
@@ -23,6 +24,7 @@ struct DatosListaNombrada {
     bool keyPreview = false;
     int largoMinimo = 2;     // shortest trimmed text that is saved
     int columnaClave = 1;    // the cell of a row that holds `cod`
+    bool importable = false; // the grid's menu imports texts from a CSV file (members without fields of their own)
     // Statements; V0 is the trimmed text, V1 the key of the picked record,
     // V2 onwards what a member adds of its own (valoresPropios()).
     Sentencia lista;
@@ -35,7 +37,7 @@ struct DatosListaNombrada {
     QString msgConfirmar;
 };
 
-class ListaNombrada : public Formulario {
+class ListaNombrada : public Formulario, public ListaImportable {
     Q_OBJECT
 public:
     explicit ListaNombrada(const DatosListaNombrada& datos);
@@ -69,12 +71,18 @@ protected:
     QWidget* panelLista = nullptr;  // carries the list, its caption and Bt(1)
     QFrame* marcoLista = nullptr;   // the frame inside panelLista
     qint64 CodigoActual = 0;
+    static constexpr int largoTexto = 60; // MaxLength of Text1
 
 private:
     const DatosListaNombrada& d_;
     QString nombreActual_; // the text of the picked record as stored
     QVariantList valores(const QString& texto) const;
     void sinSeleccion();
+    // Why a text cannot be saved; empty when it can.
+    QString rechazo(const QString& texto) const;
+    QString rechazoImportacion(const QStringList& valores) const override;
+    void insertarImportados(const QList<QStringList>& filas) override;
+    void trasImportar() override;
 };
 
 } // namespace nomencla

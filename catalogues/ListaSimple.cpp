@@ -52,6 +52,8 @@ void ListaSimple::Disenar(QWidget* lienzo)
     GR->setSearchcolumn(-1);
     GR->setTotalslineshow(false);
     GR->setMinimumSize(360, 320);
+    if (d_.importable)
+        exportar::setImportador(GR, this);
 
     auto* botones = new QHBoxLayout;
     botones->addWidget(agregar);
@@ -130,13 +132,13 @@ void ListaSimple::Guardar()
 {
     const QString nombre = Text1->text().trimmed();
     const QString segundo = Text2 ? Text2->text().trimmed() : QString();
-    if (nombre.isEmpty() || (Text2 && segundo.isEmpty())) {
+    if (!rechazo(nombre, segundo).isEmpty()) {
         MsgBox(this, d_.msgVacio, estilo::Critico, u"Error"_s);
     } else if (GR->FindRow(nombre, 0, 0, false) >= 0) {
         MsgBox(this, d_.msgDuplicado, estilo::Exclamacion, u"AVISO"_s);
     } else {
         const bool hecho = operacion([&] {
-            QSqlQuery q = ejecutar(M().Conexion, d_.insertar.sql, d_.insertar.enlazar(M().IdEmp, {nombre, {}, segundo}));
+            QSqlQuery q = insertar(nombre, segundo);
             QStringList fila{nombre};
             if (Text2)
                 fila.append(segundo);
@@ -156,6 +158,40 @@ void ListaSimple::Guardar()
         }
     }
     Text1->setFocus();
+}
+
+QString ListaSimple::rechazo(const QString& nombre, const QString& segundo) const
+{
+    // The boxes hold no more than their length: a longer text (from a file) is refused.
+    if (d_.etiquetaSegundo.isEmpty())
+        return motivoLargo(nombre, 1, d_.largoTexto);
+    const QStringList titulos = exportar::titulos(GR);
+    const QString r = motivoLargo(nombre, 1, d_.largoTexto, titulos.value(0));
+    return r.isEmpty() ? motivoLargo(segundo, 1, d_.largoSegundo, titulos.value(1)) : r;
+}
+
+QSqlQuery ListaSimple::insertar(const QString& nombre, const QString& segundo)
+{
+    return ejecutar(M().Conexion, d_.insertar.sql, d_.insertar.enlazar(M().IdEmp, {nombre, {}, segundo}));
+}
+
+QString ListaSimple::rechazoImportacion(const QStringList& valores) const
+{
+    return rechazo(valores.value(0), valores.value(1));
+}
+
+void ListaSimple::insertarImportados(const QList<QStringList>& filas)
+{
+    Transaccion transaccion(M().Conexion);
+    for (const QStringList& fila : filas)
+        insertar(fila.value(0), fila.value(1));
+    transaccion.confirmar();
+}
+
+void ListaSimple::trasImportar()
+{
+    M().HuboCambios = true;
+    CargarLista();
 }
 
 void ListaSimple::Nuevo()

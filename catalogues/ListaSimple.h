@@ -4,6 +4,9 @@
 // text (or, where the table has one, by its key kept in a hidden cell).
 #include "core/Formulario.h"
 #include "core/Sentencia.h"
+#include "core/frmImportar.h"
+
+#include <QSqlQuery>
 
 #include <memory>
 
@@ -35,6 +38,7 @@ struct DatosListaSimple {
     Sentencia suplente;      // counts other rows that still answer for the references; above 0 skips the check
     Sentencia borrar;
     bool porClave = false;   // rows carry their key in the second cell
+    bool importable = false; // the grid's menu imports names from a CSV file
     // Messages; %1 is the name.
     QString msgVacio;
     QString msgDuplicado;
@@ -42,7 +46,7 @@ struct DatosListaSimple {
     QString msgConfirmar;
 };
 
-class ListaSimple : public Formulario {
+class ListaSimple : public Formulario, public ListaImportable {
     Q_OBJECT
 public:
     explicit ListaSimple(const DatosListaSimple& datos);
@@ -65,6 +69,12 @@ private:
     CajaTexto* Text2 = nullptr;
     void CargarLista();
     void vaciar();
+    // Why a name (and second text) cannot be saved; empty when it can.
+    QString rechazo(const QString& nombre, const QString& segundo) const;
+    QSqlQuery insertar(const QString& nombre, const QString& segundo);
+    QString rechazoImportacion(const QStringList& valores) const override;
+    void insertarImportados(const QList<QStringList>& filas) override;
+    void trasImportar() override;
 };
 
 } // namespace nomencla

@@ -11,6 +11,7 @@ const DatosListaCodificada& frmLsCargos::datos()
         x.forma = u"frmLsCargos"_s;
         x.titulo = u"Administración de cargos"_s;
         x.keyPreview = false;
+        x.importable = true;
         x.formato = u"<CARGO               |<DESCRIPCION DEL CARGO                                                  |."_s;
         x.etiquetaLista = u"&Lista de cargos registrados"_s;
         x.etiquetaTexto0 = u"&Cargo:"_s;

@@ -11,6 +11,7 @@ const DatosListaCodificada& frmLsCategorias::datos()
         x.forma = u"frmLsCategorias"_s;
         x.titulo = u"Categorías de clientes"_s;
         x.keyPreview = true;
+        x.importable = true;
         x.formato = u"<CATEGORIA              |<DESCRIPCION DE LA CATEGORÍA                                                  |."_s;
         x.etiquetaLista = u"&Lista de categorías registradas"_s;
         x.etiquetaTexto0 = u"&Categoría:"_s;

@@ -15,6 +15,7 @@ const DatosListaSimple& frmLsCiudad::datos()
         x.etiquetaLista = u"Lista de ciudades registradas"_s;
         x.txNuevo = u"&Nueva"_s;
         x.keyPreview = true;
+        x.importable = true;
         x.grillasPropias = true;
         x.lista = {u"SELECT ciu FROM lsCiudades WHERE  id=? ORDER BY ciu"_s, {Valor::Empresa}};
         x.campos = u"Ciu"_s;

@@ -15,6 +15,7 @@ const DatosListaSimple& frmLsContenido::datos()
         x.etiquetaLista = u"Lista de objetos registrados"_s;
         x.txNuevo = u"&Nuevo"_s;
         x.keyPreview = false;
+        x.importable = true;
         x.grillasPropias = false;
         x.lista = {u"SELECT nom, cod FROM lsContenidos WHERE  id=?  ORDER BY nom"_s, {Valor::Empresa}};
         x.campos = u"nom,cod"_s;

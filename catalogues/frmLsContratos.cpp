@@ -14,6 +14,7 @@ const DatosListaNombrada& frmLsContratos::datos()
         x.etiquetaTexto = u"No Contrato:"_s;
         x.etiquetaLista = u"Lista de bancos registrados"_s;
         x.keyPreview = false;
+        x.importable = true;
         x.largoMinimo = 2;
         x.lista = {u"SELECT con,cod FROM lscontratos WHERE  id=? AND est=1 ORDER BY con"_s, {Valor::Empresa}};
         x.campos = u"con,cod"_s;

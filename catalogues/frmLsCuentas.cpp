@@ -14,6 +14,7 @@ const DatosListaNombrada& frmLsCuentas::datos()
         x.etiquetaTexto = u"No Contrato:"_s;
         x.etiquetaLista = u"Lista de bancos registrados"_s;
         x.keyPreview = true;
+        x.importable = true;
         x.largoMinimo = 2;
         x.lista = {u"SELECT cta,cod FROM lsCuentas WHERE  id=? AND est=1 ORDER BY cta"_s, {Valor::Empresa}};
         x.campos = u"cta,cod"_s;

@@ -15,6 +15,7 @@ const DatosListaSimple& frmLsDepartam::datos()
         x.etiquetaLista = u"Lista de departamentos registrados"_s;
         x.txNuevo = u"&Nueva"_s;
         x.keyPreview = false;
+        x.importable = true;
         x.grillasPropias = false;
         x.lista = {u"SELECT depa FROM lsDepartam WHERE  id=? ORDER BY depa"_s, {Valor::Empresa}};
         x.campos = u"depa"_s;

@@ -11,6 +11,7 @@ const DatosListaCodificada& frmLsDocAutSRI::datos()
         x.forma = u"frmLsDocAutSRI"_s;
         x.titulo = u"Documentos autorizados SRI"_s;
         x.keyPreview = true;
+        x.importable = true;
         x.formato = u"^CODIGO |<NOMBRE DEL DOCUMENTO                |."_s;
         x.etiquetaLista = u"&Lista de documentos registrados"_s;
         x.etiquetaTexto0 = u"&Codigo SRI:"_s;

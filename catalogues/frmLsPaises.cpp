@@ -14,6 +14,7 @@ const DatosListaNombrada& frmLsPaises::datos()
         x.etiquetaTexto = u"Nombre del país"_s;
         x.etiquetaLista = u"Lista de países registrados"_s;
         x.keyPreview = false;
+        x.importable = true;
         x.largoMinimo = 6;
         x.lista = {u"SELECT nom,cod FROM lsPaises WHERE  id=? ORDER BY nom"_s, {Valor::Empresa}};
         x.campos = u"nom,cod"_s;

@@ -11,6 +11,7 @@ const DatosListaCodificada& frmLsSustentos::datos()
         x.forma = u"frmLsSustentos"_s;
         x.titulo = u"Sustentos tributarios SRI"_s;
         x.keyPreview = false;
+        x.importable = true;
         x.formato = u"^CODIGO |<NOMBRE DEL SUSTENTO TRIBUTARIO                  |."_s;
         x.etiquetaLista = u"&Lista de documntos registrados"_s;
         x.etiquetaTexto0 = u"&Codigo SRI:"_s;

@@ -19,6 +19,7 @@ const DatosListaSimple& frmMedidas::datos()
         x.largoSegundo = 10;
         x.enterGuarda = false;
         x.keyPreview = false;
+        x.importable = true;
         x.grillasPropias = true;
         // V0 the name, V2 the abbreviation.
         x.lista = {u"SELECT med,abr FROM amedidas WHERE  id=? ORDER BY med"_s, {Valor::Empresa}};

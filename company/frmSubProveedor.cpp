@@ -6,8 +6,10 @@
 #include "core/Mensajes.h"
 #include "core/Module1.h"
 #include "core/Pulsante.h"
+#include "core/Ruc.h"
 
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -45,7 +47,13 @@ void frmSubProveedor::Disenar(QWidget* lienzo)
 
     auto* campos = new QGridLayout;
     campos->addWidget(crearEtiqueta(lienzo, 2, u"&RUC:"_s, tx1), 0, 0);
-    campos->addWidget(tx1, 0, 1);
+    // A tax number that cannot be right is pointed out beside the box, never refused.
+    LblRuc = ruc::crearAviso(tx1, lienzo);
+    tx1->setMinimumWidth(tx1->fontMetrics().horizontalAdvance(u"0000000000000"_s) + 16); // all 13 digits, hint or not
+    auto* cajaRuc = new QHBoxLayout;
+    cajaRuc->addWidget(tx1, 1);
+    cajaRuc->addWidget(LblRuc);
+    campos->addLayout(cajaRuc, 0, 1);
     campos->addWidget(crearEtiqueta(lienzo, 1, u"&Código:"_s, tx0), 0, 2);
     campos->addWidget(tx0, 0, 3);
     campos->addWidget(crearEtiqueta(lienzo, 3, u"Ra&zon social:"_s, tx2), 1, 0);
@@ -124,6 +132,7 @@ void frmSubProveedor::MostrarRegistro()
         for (int i = 0; i < 4; ++i)
             Tx[i]->setText(GR->CellText(fila, i));
     });
+    ruc::revisar(LblRuc, Tx[1]->text());
     Tx[0]->setFocus();
     modoExistente(true);
 }

@@ -4,6 +4,8 @@
 // list shows every sub-supplier of the tenant.
 #include "company/EstructuraEmpresa.h"
 
+class QLabel;
+
 namespace nomencla {
 
 class frmSubProveedor : public EstructuraEmpresa {
@@ -20,6 +22,7 @@ protected:
 
 private:
     Etiqueta* Lbl[2] = {nullptr, nullptr};
+    QLabel* LblRuc = nullptr;
     bool LeerProveedor();
 };
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/ExportarGrilla.h"
 #include "core/ModeloAlfarje.h"
 
 #include <QFocusEvent>
@@ -135,6 +136,7 @@ Alfarje::Alfarje(QWidget* parent) : QTableView(parent), modelo_(new ModeloAlfarj
             [this] { setFormatocolumnas(formato_); });
     connect(modelo_, &QAbstractItemModel::rowsRemoved, this, [this] { emitirCambioFila(); });
     connect(modelo_, &QAbstractItemModel::rowsInserted, this, [this] { emitirCambioFila(); });
+    exportar::instalar(this); // copy, export and, where a list takes them, imports
 }
 
 Alfarje::~Alfarje() = default;

@@ -7,6 +7,7 @@
 #include <nomencla/clsNomencla.h>
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QPointer>
 #include <QCommandLineParser>
@@ -14,6 +15,7 @@
 #include <QDialog>
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -21,7 +23,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QMenu>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPixmap>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -33,6 +37,7 @@
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QStringList>
+#include <QTemporaryDir>
 #include <QTextStream>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -110,6 +115,13 @@ public:
         formulario->addRow(u"&Empresa (IdEmp):"_s, m_empresa);
         m_nombreEmpresa = new QLineEdit(u"Distribuidora Andina del Ecuador S.A."_s, cabecera);
         formulario->addRow(u"&Nombre de la empresa:"_s, m_nombreEmpresa);
+        auto* agregados = new QLabel(
+            u"Clic derecho sobre cualquier lista: «Copiar» (también Ctrl+C) y «Exportar a CSV…»; en las listas que "
+            "una empresa llena al empezar, «Importar desde CSV…» (exporte una lista y vuelva a importarla en la otra "
+            "empresa). En SubProveedores, un RUC o cédula que no puede ser correcto se señala junto a la caja."_s,
+            cabecera);
+        agregados->setWordWrap(true);
+        formulario->addRow(u"Agregados:"_s, agregados);
         raiz->addWidget(cabecera);
 
         auto* division = new QSplitter(Qt::Horizontal, central);
@@ -387,19 +399,31 @@ private:
                 estadosExtra(ronda, d, nombre, paso + 1);
             });
         };
-        // The grid of a dialog: pick its first row as a double click would.
-        auto elegirPrimera = [d]() {
+        // The grid of a dialog: pick a row as a double click would.
+        auto elegirFila = [d](int fila) {
             QObject* gr = d->findChild<QObject*>(u"GR"_s);
-            if (!gr || gr->property("RowCount").toInt() == 0)
+            if (!gr || gr->property("RowCount").toInt() <= fila)
                 return false;
-            gr->setProperty("Row", 0);
+            gr->setProperty("Row", fila);
             return QMetaObject::invokeMethod(gr, "Click");
         };
         if (paso == 0 && (nombre == u"frmLsZona"_s || nombre == u"frmEmpresas"_s || nombre == u"frmLsTipoCli"_s
                           || nombre == u"frmSucursales"_s || nombre == u"frmLsCategorias"_s)) {
-            if (elegirPrimera())
+            if (elegirFila(0))
                 return despues(u"-elegido"_s);
         }
+        // A natural person's RUC whose first ten digits are no cédula: the hint beside the box.
+        if (paso == 0 && nombre == u"frmSubProveedor"_s) {
+            if (elegirFila(1))
+                return despues(u"-ruc"_s);
+        }
+        // The grid's menu, then an import through its preview.
+        if (paso == 0 && nombre == u"frmLsCiudad"_s) {
+            menuDeLaGrilla(d, nombre);
+            return estadosExtra(ronda, d, nombre, 1);
+        }
+        if (paso == 1 && nombre == u"frmLsCiudad"_s)
+            return importarEjemplo(ronda, d, [despues] { despues(u"-importado"_s); });
         if (paso == 0 && nombre == u"frmLsBancos"_s) {
             if (auto* casilla = d->findChild<QAbstractButton*>(u"Check1"_s)) {
                 casilla->click();
@@ -407,6 +431,87 @@ private:
             }
         }
         cerrar(ronda);
+    }
+
+    // The dialog with its grid's context menu open over the rows.
+    void menuDeLaGrilla(QWidget* d, const QString& nombre)
+    {
+        auto* gr = d->findChild<QAbstractItemView*>(u"GR"_s);
+        if (!gr)
+            return;
+        gr->setCurrentIndex(gr->model()->index(0, 0));
+        QMenu menu;
+        menu.addActions(gr->actions());
+        menu.adjustSize();
+        QPixmap imagen = d->grab();
+        QPainter pintor(&imagen);
+        pintor.drawPixmap(gr->mapTo(d, QPoint(gr->width() / 3, gr->viewport()->y() + 12)), menu.grab());
+        pintor.end();
+        guardar(imagen, nombre + u"-menu"_s);
+    }
+
+    // Waits for the modal widget that `buscar` accepts, then runs `hacer` on it.
+    void esperar(int ronda, std::function<QWidget*(QWidget*)> buscar, std::function<void(QWidget*)> hacer,
+                 int esperado = 0)
+    {
+        QTimer::singleShot(kPaso, this, [=, this] {
+            if (!vigente(ronda))
+                return;
+            if (QWidget* w = buscar(QApplication::activeModalWidget())) {
+                QPointer<QWidget> p(w);
+                QTimer::singleShot(kAsentarse, this, [=, this] {
+                    if (vigente(ronda) && p)
+                        hacer(p);
+                });
+                return;
+            }
+            if (esperado + kPaso >= kEspera) {
+                QWidget* arriba = QApplication::activeModalWidget();
+                std::fprintf(stderr, "%s: la importación de ejemplo no avanzó (%s)\n", qPrintable(m_actual),
+                             arriba ? arriba->metaObject()->className() : "-");
+                return cerrar(ronda);
+            }
+            esperar(ronda, buscar, hacer, esperado + kPaso);
+        });
+    }
+
+    // "Importar desde CSV…" with a small file: the file dialog answered, the
+    // preview pictured and accepted, the closing box dismissed.
+    void importarEjemplo(int ronda, QWidget* d, std::function<void()> alTerminar)
+    {
+        auto* accion = d->findChild<QAction*>(u"ImportarCSV"_s);
+        if (!accion || !m_temporal.isValid())
+            return cerrar(ronda);
+        const QString ruta = m_temporal.filePath(u"ciudades.csv"_s);
+        QFile archivo(ruta);
+        if (!archivo.open(QIODevice::WriteOnly))
+            return cerrar(ronda);
+        archivo.write("\xEF\xBB\xBF" "CIUDAD\r\nOtavalo\r\nSalinas\r\nQUITO\r\nBaños de Agua Santa\r\notavalo\r\n"
+                      "Puerto Francisco de Orellana (El Coca)\r\nAzogues\r\n");
+        archivo.close();
+        QTimer::singleShot(0, accion, &QAction::trigger);
+        esperar(ronda, [](QWidget* w) { return qobject_cast<QFileDialog*>(w); },
+                [=, this](QWidget* w) {
+                    auto* dialogo = static_cast<QFileDialog*>(w);
+                    // The name typed in the dialog's box, as a user would (selectFile
+                    // leaves a box that has the focus alone).
+                    if (auto* nombre = dialogo->findChild<QLineEdit*>(u"fileNameEdit"_s))
+                        nombre->setText(ruta);
+                    else
+                        dialogo->selectFile(ruta);
+                    QMetaObject::invokeMethod(dialogo, "accept");
+                    esperar(ronda, [](QWidget* v) { return v && v->objectName() == u"frmImportar"_s ? v : nullptr; },
+                            [=, this](QWidget* vista) {
+                                guardar(vista->grab(), u"frmImportar"_s);
+                                if (auto* b = vista->findChild<QAbstractButton*>(u"Bt(0)"_s))
+                                    b->click();
+                                esperar(ronda, [](QWidget* c) { return qobject_cast<QMessageBox*>(c); },
+                                        [=](QWidget* caja) {
+                                            static_cast<QMessageBox*>(caja)->accept();
+                                            alTerminar();
+                                        });
+                            });
+                });
     }
 
     // Closes the message box or dialog on top, again and again, until the
@@ -451,6 +556,7 @@ private:
     QString m_actual;
     QSet<QString> m_nombres;
     QStringList m_escritos;
+    QTemporaryDir m_temporal;
     int m_ronda = 0;
     bool m_enCurso = false;
 };
