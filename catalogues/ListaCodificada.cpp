@@ -257,9 +257,9 @@ void ListaCodificada::Guardar()
     despuesDeGuardar();
 }
 
-QString ListaCodificada::rechazoTexto0(const QString& t0) const
+QString ListaCodificada::rechazoTexto0(const QString& t0, bool desdeArchivo) const
 {
-    return motivoLargo(t0, 2, d_.limite0, exportar::titulos(GR).value(0)); // one character is refused like none
+    return motivoLargo(t0, 2, desdeArchivo ? d_.limite0 : sinTope, exportar::titulos(GR).value(0)); // one character is refused like none
 }
 
 qint32 ListaCodificada::insertarNuevo(QVariantList v)
@@ -277,7 +277,7 @@ qint32 ListaCodificada::insertarNuevo(QVariantList v)
 
 QString ListaCodificada::rechazoImportacion(const QStringList& valores) const
 {
-    const QString r = rechazoTexto0(valores.value(0));
+    const QString r = rechazoTexto0(valores.value(0), true);
     return r.isEmpty() ? motivoLargo(valores.value(1), 0, d_.limite1, exportar::titulos(GR).value(1)) : r;
 }
 

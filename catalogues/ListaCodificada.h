@@ -120,7 +120,7 @@ private:
     QVariantList valores() const;
     void modo(bool nuevo);
     // Why the first text cannot be saved; empty when it can.
-    QString rechazoTexto0(const QString& t0) const;
+    QString rechazoTexto0(const QString& t0, bool desdeArchivo = false) const;
     // Inserts a new record from the statements' values (V2 takes the new
     // key); returns the key.
     qint32 insertarNuevo(QVariantList v);

@@ -146,14 +146,14 @@ void ListaNombrada::Guardar()
     sinSeleccion();
 }
 
-QString ListaNombrada::rechazo(const QString& texto) const
+QString ListaNombrada::rechazo(const QString& texto, bool desdeArchivo) const
 {
-    return motivoLargo(texto, d_.largoMinimo, largoTexto);
+    return motivoLargo(texto, d_.largoMinimo, desdeArchivo ? largoTexto : sinTope);
 }
 
 QString ListaNombrada::rechazoImportacion(const QStringList& valores) const
 {
-    return rechazo(valores.value(0));
+    return rechazo(valores.value(0), true);
 }
 
 void ListaNombrada::insertarImportados(const QList<QStringList>& filas)

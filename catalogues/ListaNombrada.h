@@ -79,7 +79,7 @@ private:
     QVariantList valores(const QString& texto) const;
     void sinSeleccion();
     // Why a text cannot be saved; empty when it can.
-    QString rechazo(const QString& texto) const;
+    QString rechazo(const QString& texto, bool desdeArchivo = false) const;
     QString rechazoImportacion(const QStringList& valores) const override;
     void insertarImportados(const QList<QStringList>& filas) override;
     void trasImportar() override;

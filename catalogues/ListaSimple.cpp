@@ -160,14 +160,15 @@ void ListaSimple::Guardar()
     Text1->setFocus();
 }
 
-QString ListaSimple::rechazo(const QString& nombre, const QString& segundo) const
+QString ListaSimple::rechazo(const QString& nombre, const QString& segundo, bool desdeArchivo) const
 {
-    // The boxes hold no more than their length: a longer text (from a file) is refused.
+    // The boxes hold no more than their length: a longer text from a file is refused.
+    const int tope = desdeArchivo ? d_.largoTexto : sinTope;
     if (d_.etiquetaSegundo.isEmpty())
-        return motivoLargo(nombre, 1, d_.largoTexto);
+        return motivoLargo(nombre, 1, tope);
     const QStringList titulos = exportar::titulos(GR);
-    const QString r = motivoLargo(nombre, 1, d_.largoTexto, titulos.value(0));
-    return r.isEmpty() ? motivoLargo(segundo, 1, d_.largoSegundo, titulos.value(1)) : r;
+    const QString r = motivoLargo(nombre, 1, tope, titulos.value(0));
+    return r.isEmpty() ? motivoLargo(segundo, 1, desdeArchivo ? d_.largoSegundo : sinTope, titulos.value(1)) : r;
 }
 
 QSqlQuery ListaSimple::insertar(const QString& nombre, const QString& segundo)
@@ -177,7 +178,7 @@ QSqlQuery ListaSimple::insertar(const QString& nombre, const QString& segundo)
 
 QString ListaSimple::rechazoImportacion(const QStringList& valores) const
 {
-    return rechazo(valores.value(0), valores.value(1));
+    return rechazo(valores.value(0), valores.value(1), true);
 }
 
 void ListaSimple::insertarImportados(const QList<QStringList>& filas)

@@ -70,7 +70,7 @@ private:
     void CargarLista();
     void vaciar();
     // Why a name (and second text) cannot be saved; empty when it can.
-    QString rechazo(const QString& nombre, const QString& segundo) const;
+    QString rechazo(const QString& nombre, const QString& segundo, bool desdeArchivo = false) const;
     QSqlQuery insertar(const QString& nombre, const QString& segundo);
     QString rechazoImportacion(const QStringList& valores) const override;
     void insertarImportados(const QList<QStringList>& filas) override;

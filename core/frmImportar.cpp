@@ -74,11 +74,12 @@ QString nombreSeparador(QChar c)
 QString motivoLargo(const QString& texto, int minimo, int maximo, const QString& campo)
 {
     const QString quien = campo.isEmpty() ? QString() : campo + u": "_s;
-    if (texto.isEmpty() && minimo > 0)
+    const qsizetype largo = caracteres(texto);
+    if (largo == 0 && minimo > 0)
         return quien + u"vacío"_s;
-    if (texto.size() < minimo)
+    if (largo < minimo)
         return quien + u"menos de %1 caracteres"_s.arg(minimo);
-    if (texto.size() > maximo)
+    if (maximo >= 0 && largo > maximo)
         return quien + u"más de %1 caracteres"_s.arg(maximo);
     return QString();
 }

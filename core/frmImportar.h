@@ -21,6 +21,9 @@ namespace nomencla {
 // Why a text does not fit a field of `minimo` to `maximo` characters; empty
 // when it does. `campo` names the field in the reason.
 QString motivoLargo(const QString& texto, int minimo, int maximo, const QString& campo = {});
+// No upper bound for `maximo` (a typed save: the box already limits what is typed,
+// and a stored record longer than its box is kept whole).
+constexpr int sinTope = -1;
 
 class ListaImportable : public ImportadorGrilla {
 public:
