@@ -1,5 +1,6 @@
 #include "core/Formulario.h"
 
+#include "core/Accesibilidad.h"
 #include "core/BaseDatos.h"
 #include "core/Controles.h"
 #include "core/Mensajes.h"
@@ -41,6 +42,7 @@ void Formulario::Show(QWidget* owner)
     lienzo_->setObjectName(QStringLiteral("lienzo"));
     Disenar(lienzo_);
     layout()->addWidget(lienzo_);
+    prepararAccesibilidad(this, lienzo_);
     if (keyPreview_)
         vigilarTeclas(lienzo_);
 
