@@ -3,6 +3,7 @@
 #include "core/Controles.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QLayout>
 #include <QRegularExpression>
@@ -50,14 +51,19 @@ QWidget* delante(const QLayout* disposicion, const QWidget* w)
     return nullptr;
 }
 
-QString nombreDeducido(QWidget* w)
+QString nombreDeducido(QWidget* dialogo, QWidget* w)
 {
     if (auto* b = qobject_cast<QAbstractButton*>(w); b && b->text().trimmed().isEmpty() && !b->toolTip().isEmpty())
         return b->toolTip();
     if (w->parentWidget())
         if (QWidget* previo = delante(w->parentWidget()->layout(), w); previo && !textoPropio(previo).isEmpty())
             return textoPropio(previo);
-    return w->toolTip();
+    if (!w->toolTip().isEmpty())
+        return w->toolTip();
+    // A list alone in its dialog (a picker) is what the dialog's title says.
+    if (qobject_cast<QAbstractItemView*>(w))
+        return dialogo->windowTitle();
+    return QString();
 }
 
 void ponerModo(QWidget* dialogo, QWidget* lienzo, const QString& modo)
@@ -91,7 +97,7 @@ void prepararAccesibilidad(QWidget* dialogo, QWidget* lienzo)
     for (QWidget* w : controlesEnfocables(lienzo)) {
         QAccessibleInterface* i = QAccessible::queryAccessibleInterface(w);
         if (i && i->text(QAccessible::Name).trimmed().isEmpty()) {
-            const QString nombre = nombreDeducido(w);
+            const QString nombre = nombreDeducido(dialogo, w);
             if (!nombre.isEmpty())
                 w->setAccessibleName(nombre);
         }

@@ -390,7 +390,12 @@ bool Alfarje::eligeFilas() const { return isSignalConnected(QMetaMethod::fromSig
 
 bool Alfarje::Elegir()
 {
-    if (Row() < 0 || !eligeFilas())
+    if (!eligeFilas())
+        return false;
+    // Arriving by Tab puts the keyboard on a row without selecting it.
+    if (Row() < 0 && hasFocus() && currentIndex().isValid())
+        setRow(currentIndex().row());
+    if (Row() < 0)
         return false;
     Q_EMIT Click();
     return true;
