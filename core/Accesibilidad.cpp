@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAccessible>
+#include <QAccessibleWidget>
 #include <QLayout>
 #include <QRegularExpression>
 
@@ -66,13 +67,48 @@ QString nombreDeducido(QWidget* dialogo, QWidget* w)
     return QString();
 }
 
-void ponerModo(QWidget* dialogo, QWidget* lienzo, const QString& modo)
+// Says the new mode once, as a notification: a screen reader speaks a
+// notification when it shows, so it is hidden until the mode changes and
+// shown again at each change. (Qt 6.4 sends a changed name or description
+// with the object instead of the text, and Orca then says nothing.)
+class Pregonero : public QWidget {
+public:
+    explicit Pregonero(QWidget* banner) : QWidget(banner)
+    {
+        setObjectName(banner->objectName() + u".anuncio"_s);
+        setFocusPolicy(Qt::NoFocus);
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        setGeometry(0, 0, 0, 0);
+        hide();
+    }
+    QString texto;
+};
+
+class PregoneroAccesible : public QAccessibleWidget {
+public:
+    explicit PregoneroAccesible(Pregonero* w) : QAccessibleWidget(w, QAccessible::Notification) {}
+    QString text(QAccessible::Text t) const override
+    {
+        return t == QAccessible::Name ? static_cast<Pregonero*>(widget())->texto : QString();
+    }
+};
+
+QAccessibleInterface* fabrica(const QString&, QObject* objeto)
+{
+    if (auto* p = dynamic_cast<Pregonero*>(objeto))
+        return new PregoneroAccesible(p);
+    return nullptr;
+}
+
+// The mode is the dialog's description: said with the dialog's title when
+// the focus comes into it.
+void ponerModo(QWidget* dialogo, Pregonero* pregonero, const QString& modo, bool anunciar)
 {
     dialogo->setAccessibleDescription(modo);
-    for (QWidget* w : controlesEnfocables(lienzo)) {
-        const QString propia = w->toolTip();
-        w->setAccessibleDescription(propia.isEmpty() ? modo : propia + u". "_s + modo);
-    }
+    pregonero->hide();
+    pregonero->texto = modo;
+    if (anunciar)
+        pregonero->show();
 }
 
 } // namespace
@@ -103,9 +139,15 @@ void prepararAccesibilidad(QWidget* dialogo, QWidget* lienzo)
         }
     }
     if (auto* banner = lienzo->findChild<Etiqueta*>(u"Label2"_s)) {
-        ponerModo(dialogo, lienzo, banner->text());
+        static const bool instalada = [] {
+            QAccessible::installFactory(fabrica);
+            return true;
+        }();
+        Q_UNUSED(instalada);
+        auto* pregonero = new Pregonero(banner);
+        ponerModo(dialogo, pregonero, banner->text(), false);
         QObject::connect(banner, &Etiqueta::TextoCambiado, banner,
-                         [dialogo, lienzo, banner] { ponerModo(dialogo, lienzo, banner->text()); });
+                         [dialogo, pregonero, banner] { ponerModo(dialogo, pregonero, banner->text(), true); });
     } else {
         dialogo->setAccessibleDescription(QString());
     }

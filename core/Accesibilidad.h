@@ -4,9 +4,9 @@
 // - every control that takes the focus has a name: its caption, the caption
 //   linked to it, the caption it stands behind in its row, or the words of
 //   its tooltip;
-// - the mode banner (Label2) is the description of the dialog and of each of
-//   its controls, so it is said when the focus lands there, and a change of
-//   mode is said at once (the focused control's description changes).
+// - the mode banner (Label2) is the description of the dialog, said with its
+//   title when the focus comes into it, and a change of mode is announced
+//   (a notification "Label2.anuncio" shows with the new mode).
 #include <QList>
 
 class QWidget;

@@ -186,14 +186,17 @@ public:
     QAccessibleInterface* table() const override { return parent(); }
 
     // Actions: press picks the row where the dialog picks rows; a flag
-    // cell tells that it is a check box (the grid is read-only).
+    // cell tells that it is a check box (the grid is read-only: toggling
+    // does nothing).
     QStringList actionNames() const override
     {
         QStringList r;
         if (g_ && g_->eligeFilas())
             r << pressAction();
+        // Spelled as screen readers look for it to say "checked" or "not
+        // checked" (Qt's own name is capitalised).
         if (marca())
-            r << toggleAction();
+            r << u"toggle"_s;
         return r;
     }
     void doAction(const QString& accion) override

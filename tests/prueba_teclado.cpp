@@ -387,7 +387,11 @@ private Q_SLOTS:
             if (auto* banner = d->findChild<QLabel*>(u"Label2"_s)) {
                 QVERIFY2(banner->text().startsWith(u"MODIFICANDO"_s), qPrintable(banner->text()));
                 QCOMPARE(d->accessibleDescription(), banner->text());
-                QCOMPARE(foco(d)->accessibleDescription().right(banner->text().size()), banner->text());
+                auto* pregonero = control<QWidget>(banner, u"Label2.anuncio"_s);
+                QVERIFY(pregonero->isVisible()); // shown at the change: announced
+                QAccessibleInterface* anuncio = QAccessible::queryAccessibleInterface(pregonero);
+                QCOMPARE(anuncio->role(), QAccessible::Notification);
+                QCOMPARE(anuncio->text(QAccessible::Name), banner->text());
             }
             QVERIFY(control<QWidget>(d, r.quitar)->isEnabled());
             QVERIFY(cajas.textos.isEmpty()); // Enter pressed no button
