@@ -64,9 +64,10 @@ public:
 
     ModeloAlfarje* modelo() const;
 
-    // Picks the selected row as a double click does (Enter, or a screen
-    // reader's press on a cell). False, and nothing done, without a selected
-    // row or where the dialog picks no rows (nothing handles Click).
+    // Picks the selected row (or, with the focus, the row the keyboard is
+    // on) as a double click does: Enter, or a screen reader's press on a
+    // cell. False, and nothing done, without such a row or where the dialog
+    // picks no rows (nothing handles Click).
     bool Elegir();
     bool eligeFilas() const;
 

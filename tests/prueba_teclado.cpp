@@ -360,6 +360,28 @@ private Q_SLOTS:
         QVERIFY(visto);
     }
 
+    // The pickers that chose on Enter before still choose once: Tab to the
+    // list, Down, Enter gives the row's code.
+    void selectores_con_enter()
+    {
+        ejecutarSql(db, u"INSERT INTO martexpira (cod,art,bod,lot,can,fec,pro,est) VALUES "
+                        "(31,1,1,'L-1',5,'2099-01-01',NULL,1),(32,1,1,'L-2',5,'2099-01-01',NULL,1)"_s);
+        int picks = -1;
+        alAbrir(u"frmCaducidades"_s, [&](QWidget* d) {
+            auto* gr = control<Alfarje>(d, u"GR"_s);
+            picks = 0;
+            connect(gr, &Alfarje::Click, d, [&picks] { ++picks; });
+            QVERIFY(irA(d, u"GR"_s));
+            QVERIFY(filaConTeclas(d, gr, u"L-2"_s, 0));
+            pulsarTecla(d, Qt::Key_Return);
+        });
+        clsNomencla nomencla;
+        QCOMPARE(nomencla.SeleccionarLote(u"1"_s, db, 1), 32);
+        QCOMPARE(picks, 1);
+        alAbrir(u"frmPendientes"_s, [&](QWidget* d) { pulsarTecla(d, Qt::Key_Return); });
+        QCOMPARE(nomencla.FacturasPendientes(u"1"_s, QString(), db, acces), 11);
+    }
+
     // Enter on a row of a grid opens the record, once; the rest by keys.
     void ronda_con_teclado_data()
     {
