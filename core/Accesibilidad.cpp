@@ -1,5 +1,6 @@
 #include "core/Accesibilidad.h"
 
+#include "core/AlfarjeAccesible.h"
 #include "core/Controles.h"
 
 #include <QAbstractButton>
@@ -7,7 +8,6 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QLayout>
-#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
@@ -15,11 +15,10 @@ namespace nomencla {
 
 namespace {
 
-QString sinAcelerador(QString texto)
+// A caption as a name: without its '&' marks and its closing colon.
+QString comoNombre(const QString& caption)
 {
-    static const QRegularExpression acelerador(u"&(.)"_s);
-    texto.replace(acelerador, u"\\1"_s);
-    texto = texto.trimmed();
+    QString texto = sinAcelerador(caption);
     if (texto.endsWith(u':'))
         texto.chop(1);
     return texto;
@@ -28,9 +27,9 @@ QString sinAcelerador(QString texto)
 QString textoPropio(const QWidget* w)
 {
     if (const auto* l = qobject_cast<const QLabel*>(w))
-        return sinAcelerador(l->text());
+        return comoNombre(l->text());
     if (const auto* b = qobject_cast<const QAbstractButton*>(w))
-        return sinAcelerador(b->text());
+        return comoNombre(b->text());
     return QString();
 }
 

@@ -26,13 +26,13 @@ QString tituloHablado(const QString& titulo)
     return palabras.join(u' ');
 }
 
-namespace {
-
 QString sinAcelerador(QString texto)
 {
     static const QRegularExpression acelerador(u"&(.)"_s);
     return texto.replace(acelerador, u"\\1"_s).trimmed();
 }
+
+namespace {
 
 // The caption whose buddy the widget is, among its siblings.
 QString textoDeCompanera(const QWidget* w)

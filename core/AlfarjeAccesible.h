@@ -26,4 +26,7 @@ void avisarSeleccionAlfarje(Alfarje* grilla, const QItemSelection& elegidas, con
 // "F E C H A  F E R I A D O" -> "FECHA FERIADO"; other titles unchanged.
 QString tituloHablado(const QString& titulo);
 
+// A caption as it is said: without its '&' marks ("&&" is one '&'), trimmed.
+QString sinAcelerador(QString texto);
+
 } // namespace nomencla
