@@ -118,9 +118,11 @@ void frmLsZona::DisenarExtra(QWidget* lienzo, QGridLayout*, QBoxLayout* cuerpo)
     Bt5_ = new Pulsante(QString(), lienzo, estilo->standardIcon(QStyle::SP_DialogSaveButton));
     Bt5_->setObjectName(u"Bt(5)"_s);
     Bt5_->setToolTip(u"Click para guardar el lugar"_s);
+    Bt5_->setAccessibleName(u"Guardar lugar"_s);
     Bt4_ = new Pulsante(QString(), lienzo, estilo->standardIcon(QStyle::SP_TrashIcon));
     Bt4_->setObjectName(u"Bt(4)"_s);
     Bt4_->setToolTip(u"Click para eliminar la fila seleccionada"_s);
+    Bt4_->setAccessibleName(u"Quitar lugar"_s);
 
     GR2 = new Alfarje(lienzo);
     GR2->setObjectName(u"GR2"_s);
@@ -128,6 +130,7 @@ void frmLsZona::DisenarExtra(QWidget* lienzo, QGridLayout*, QBoxLayout* cuerpo)
     GR2->setShowrownumbers(false);
     GR2->setTotalslineshow(false);
     GR2->setMinimumSize(520, 150);
+    GR2->setAccessibleName(u"Lugares de la zona"_s);
 
     auto* fila = new QHBoxLayout;
     fila->addWidget(Tx2_, 1);

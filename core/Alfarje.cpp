@@ -3,12 +3,14 @@
 #include <algorithm>
 
 #include "core/ExportarGrilla.h"
+#include "core/AlfarjeAccesible.h"
 #include "core/ModeloAlfarje.h"
 
 #include <QFocusEvent>
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QKeyEvent>
+#include <QMetaMethod>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -97,6 +99,7 @@ QList<Entrada> leerFormato(const QString& formato)
 
 Alfarje::Alfarje(QWidget* parent) : QTableView(parent), modelo_(new ModeloAlfarje(this))
 {
+    instalarAccesibilidadAlfarje();
     setModel(modelo_);
     setSelectionBehavior(QAbstractItemView::SelectRows);
     setSelectionMode(QAbstractItemView::SingleSelection);
@@ -200,6 +203,10 @@ LineaTotales* Alfarje::lineaTotales()
     if (!totales_) {
         totales_ = new LineaTotales(this);
         totales_->hide();
+        // Named after its grid ("GR.totales"), for automation and screen readers.
+        auto nombrar = [this] { totales_->setObjectName(objectName() + u".totales"_s); };
+        nombrar();
+        connect(this, &QObject::objectNameChanged, totales_, nombrar);
         auto repintar = [this] { totales_->update(); };
         connect(horizontalScrollBar(), &QScrollBar::valueChanged, totales_, repintar);
         connect(horizontalHeader(), &QHeaderView::sectionResized, totales_, repintar);
@@ -352,7 +359,7 @@ void Alfarje::keyPressEvent(QKeyEvent* evento)
     }
     if (codigo != 0) {
         Q_EMIT KeyPress(codigo);
-        if (codigo == 0) {
+        if (codigo == 0 || (codigo == 13 && Elegir())) {
             evento->accept();
             return;
         }
@@ -379,6 +386,35 @@ QModelIndex Alfarje::moveCursor(CursorAction accion, Qt::KeyboardModifiers modif
     if (accion == MoveHome || accion == MoveEnd)
         modificadores |= Qt::ControlModifier;
     return QTableView::moveCursor(accion, modificadores);
+}
+
+bool Alfarje::eligeFilas() const { return isSignalConnected(QMetaMethod::fromSignal(&Alfarje::Click)); }
+
+bool Alfarje::Elegir()
+{
+    if (!eligeFilas())
+        return false;
+    // Arriving by Tab puts the keyboard on a row without selecting it.
+    if (Row() < 0 && hasFocus() && currentIndex().isValid())
+        setRow(currentIndex().row());
+    if (Row() < 0)
+        return false;
+    Q_EMIT Click();
+    return true;
+}
+
+// The accessibility events of a table view name cells by their place among
+// every column; the grid's own interface shows the visible columns only.
+void Alfarje::currentChanged(const QModelIndex& actual, const QModelIndex& anterior)
+{
+    avisarFocoAlfarje(this, actual);
+    QAbstractItemView::currentChanged(actual, anterior);
+}
+
+void Alfarje::selectionChanged(const QItemSelection& elegidas, const QItemSelection& dejadas)
+{
+    avisarSeleccionAlfarje(this, elegidas, dejadas);
+    QAbstractItemView::selectionChanged(elegidas, dejadas);
 }
 
 void Alfarje::resizeEvent(QResizeEvent* evento)

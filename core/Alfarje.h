@@ -64,6 +64,13 @@ public:
 
     ModeloAlfarje* modelo() const;
 
+    // Picks the selected row (or, with the focus, the row the keyboard is
+    // on) as a double click does: Enter, or a screen reader's press on a
+    // cell. False, and nothing done, without such a row or where the dialog
+    // picks no rows (nothing handles Click).
+    bool Elegir();
+    bool eligeFilas() const;
+
 Q_SIGNALS:
     void Click();               // double click on a row
     void KeyPress(int& KeyAscii); // keys while the grid has the focus; 0 cancels
@@ -77,6 +84,8 @@ protected:
     void resizeEvent(QResizeEvent* evento) override;
     void updateGeometries() override;
     QModelIndex moveCursor(CursorAction accion, Qt::KeyboardModifiers modificadores) override;
+    void currentChanged(const QModelIndex& actual, const QModelIndex& anterior) override;
+    void selectionChanged(const QItemSelection& elegidas, const QItemSelection& dejadas) override;
 
 private:
     ModeloAlfarje* modelo_;

@@ -306,6 +306,14 @@ Etiqueta::Etiqueta(const QString& texto, QWidget* parent) : QLabel(texto, parent
     setTextFormat(Qt::PlainText);
 }
 
+void Etiqueta::setText(const QString& texto)
+{
+    if (texto == text())
+        return;
+    QLabel::setText(texto);
+    Q_EMIT TextoCambiado();
+}
+
 void Etiqueta::setBackColor(quint32 color)
 {
     color_ = color;

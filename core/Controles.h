@@ -129,9 +129,14 @@ class Etiqueta : public QLabel {
     Q_OBJECT
 public:
     explicit Etiqueta(const QString& texto, QWidget* parent = nullptr);
+    // As QLabel's, and tells it (the mode banner is announced).
+    void setText(const QString& texto);
     // 0xRRGGBB, or 0x8000000F for the system's button face.
     void setBackColor(quint32 color);
     quint32 BackColor() const { return color_; }
+
+Q_SIGNALS:
+    void TextoCambiado();
 
 private:
     quint32 color_ = 0x8000000F;

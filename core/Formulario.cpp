@@ -1,6 +1,7 @@
 #include "core/Formulario.h"
 
 #include "core/Alfarje.h"
+#include "core/Accesibilidad.h"
 #include "core/BaseDatos.h"
 #include "core/Conflictos.h"
 #include "core/Controles.h"
@@ -44,6 +45,7 @@ void Formulario::Show(QWidget* owner)
     lienzo_->setObjectName(QStringLiteral("lienzo"));
     Disenar(lienzo_);
     layout()->addWidget(lienzo_);
+    prepararAccesibilidad(this, lienzo_);
     if (keyPreview_)
         vigilarTeclas(lienzo_);
 

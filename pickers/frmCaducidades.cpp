@@ -88,11 +88,8 @@ void frmCaducidades::Disenar(QWidget* lienzo)
                 GR->setRow(0);
         }
     });
+    // Enter on a row picks it as the double click does (the grid's own).
     connect(GR, &Alfarje::Click, this, [this] { GR_Click(); });
-    connect(GR, &Alfarje::KeyPress, this, [this](int& KeyAscii) {
-        if (KeyAscii == vbKeyReturn)
-            GR_Click();
-    });
     Text1->setFocus();
 }
 

@@ -1,0 +1,1 @@
+nomencla_prueba(prueba_teclado prueba_teclado.cpp)
