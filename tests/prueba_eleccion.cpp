@@ -4,8 +4,6 @@
 // refused with a message instead of being computed wrongly.
 #include "tests/prueba_estructura.h"
 
-#include <nomencla/clsNomencla.h>
-
 #include <QCheckBox>
 
 using namespace Qt::StringLiterals;
@@ -13,8 +11,6 @@ using namespace prueba;
 using nomencla::Alfarje;
 
 namespace {
-
-using Metodo = bool (clsNomencla::*)(const QString&, QSqlDatabase&);
 
 // A dialog, two rows whose names the search takes as equal, and what the
 // fields show for each: the controls and, per name, their texts in order.
@@ -28,24 +24,28 @@ struct Dialogo {
     QHash<QString, QStringList> muestra;
 };
 
+// A coded list whose key the database gives: names a and b, each with its
+// description.
+Dialogo codificada(const char* nombre, const QString& forma, Metodo metodo, const QString& tabla,
+                   const QString& columna, const QString& a, const QString& desA, const QString& b, const QString& desB)
+{
+    return {nombre, forma, metodo, tabla,
+            u"INSERT INTO %1 (id,%2,des,est) VALUES ('1','%3','%4',1),('1','%5','%6',1)"_s.arg(tabla, columna, a, desA, b, desB),
+            {u"Tx(0)"_s, u"Tx(1)"_s}, {{a, {a, desA}}, {b, {b, desB}}}};
+}
+
 const QList<Dialogo> dialogos{
     {"categorias", u"frmLsCategorias"_s, &clsNomencla::CategoriaClientes, u"mCatClie"_s,
      u"INSERT INTO mCatClie (id,cod,cat,des,est) VALUES ('1',1,'Médico','Especialista',1),"
      "('1',2,'Medico','General',1),('2',1,'Medico','otra empresa',1)"_s,
      {u"Tx(0)"_s, u"Tx(1)"_s},
      {{u"Médico"_s, {u"Médico"_s, u"Especialista"_s}}, {u"Medico"_s, {u"Medico"_s, u"General"_s}}}},
-    {"cargos", u"frmLsCargos"_s, &clsNomencla::Cargos, u"Cargos"_s,
-     u"INSERT INTO Cargos (id,car,des,est) VALUES ('1','MÉDICO','De planta',1),('1','medico','Residente',1)"_s,
-     {u"Tx(0)"_s, u"Tx(1)"_s},
-     {{u"MÉDICO"_s, {u"MÉDICO"_s, u"De planta"_s}}, {u"medico"_s, {u"medico"_s, u"Residente"_s}}}},
-    {"documentos", u"frmLsDocAutSRI"_s, &clsNomencla::DocumentAutorizSRI, u"SRI_Documentos"_s,
-     u"INSERT INTO SRI_Documentos (id,cin,des,est) VALUES ('1','É1','Factura',1),('1','e1','Liquidación',1)"_s,
-     {u"Tx(0)"_s, u"Tx(1)"_s},
-     {{u"É1"_s, {u"É1"_s, u"Factura"_s}}, {u"e1"_s, {u"e1"_s, u"Liquidación"_s}}}},
-    {"sustentos", u"frmLsSustentos"_s, &clsNomencla::SustentoTributario, u"SRI_Sustentos"_s,
-     u"INSERT INTO SRI_Sustentos (id,cin,des,est) VALUES ('1','Á2','Crédito tributario',1),('1','a2','Costo',1)"_s,
-     {u"Tx(0)"_s, u"Tx(1)"_s},
-     {{u"Á2"_s, {u"Á2"_s, u"Crédito tributario"_s}}, {u"a2"_s, {u"a2"_s, u"Costo"_s}}}},
+    codificada("cargos", u"frmLsCargos"_s, &clsNomencla::Cargos, u"Cargos"_s, u"car"_s, u"MÉDICO"_s, u"De planta"_s,
+               u"medico"_s, u"Residente"_s),
+    codificada("documentos", u"frmLsDocAutSRI"_s, &clsNomencla::DocumentAutorizSRI, u"SRI_Documentos"_s, u"cin"_s,
+               u"É1"_s, u"Factura"_s, u"e1"_s, u"Liquidación"_s),
+    codificada("sustentos", u"frmLsSustentos"_s, &clsNomencla::SustentoTributario, u"SRI_Sustentos"_s, u"cin"_s,
+               u"Á2"_s, u"Crédito tributario"_s, u"a2"_s, u"Costo"_s),
     {"tipos", u"frmLsTipoCli"_s, &clsNomencla::TipoClientes, u"mTipClie"_s,
      u"INSERT INTO mTipClie (id,cod,tip,des,cre,pla,descu,inte,est) VALUES "
      "('1',1,'Médico','Con convenio',1500,30,12.5,0,1),('1',2,'medico','Sin convenio',200,8,0,0,1)"_s,
@@ -150,7 +150,7 @@ private Q_SLOTS:
             pulsar(d, u"Bt(0)"_s);
         });
         (nomencla.*c.metodo)(u"1"_s, db);
-        QCOMPARE(cajas.ultima(), u"La información se ha guardado con éxito!"_s);
+        QCOMPARE(cajas.ultima(), guardada);
         QCOMPARE(vistos, c.muestra.value(elegido));
         QCOMPARE(filaTras, fila);
         QCOMPARE(filas(db, todo), antes);
@@ -167,11 +167,8 @@ private Q_SLOTS:
         alAbrir(u"frmLsZona"_s, [&](QWidget* d) {
             dobleClic(control<Alfarje>(d, u"GR"_s), 0);
             auto* gr2 = control<Alfarje>(d, u"GR2"_s);
-            d->activateWindow();
-            QVERIFY(QTest::qWaitForWindowActive(d));
             for (int fila = 0; fila < 2; ++fila) {
-                QTest::mouseClick(gr2->viewport(), Qt::LeftButton, {},
-                                  gr2->visualRect(gr2->model()->index(fila, 0)).center());
+                clic(d, u"GR2"_s, fila);
                 vistos << gr2->CellText(fila, 0) + u'|' + tx(d, 2)->text() + u'|' + QString::number(gr2->Row());
             }
         });
@@ -223,7 +220,7 @@ private Q_SLOTS:
         const bool cambios = (nomencla.*c.metodo)(u"1"_s, db);
         if (maximo < 2147483647) {
             QVERIFY(cambios);
-            QCOMPARE(cajas.ultima(), u"La información se ha guardado con éxito!"_s);
+            QCOMPARE(cajas.ultima(), guardada);
             QCOMPARE(valor(db, u"SELECT cod FROM %1 WHERE %2='Nueva'"_s.arg(c.tabla, c.nombreCol)).toLongLong(),
                      2147483647LL);
             return;

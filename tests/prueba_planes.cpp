@@ -180,19 +180,12 @@ private Q_SLOTS:
     void initTestCase()
     {
         db = baseNueva(u"t_planes"_s);
-        QFile demo(QStringLiteral(NOMENCLA_FUENTES "/db/demo.sql"));
-        QFile volumen(QStringLiteral(NOMENCLA_FUENTES "/db/volumen.sql"));
-        QVERIFY(demo.open(QIODevice::ReadOnly) && volumen.open(QIODevice::ReadOnly));
-        ejecutarSql(db, QString::fromUtf8(demo.readAll()));
+        cargar(db, "db/demo.sql");
         ejecutarSql(db, QString::fromUtf8(sinReferencias));
         ejecutarSql(db, u"SET @inquilino='1', @filas=%1, @vecinos=19, @filas_vecino=%2"_s.arg(filasInquilino)
                             .arg(filasInquilino * 2 / 19));
-        ejecutarSql(db, QString::fromUtf8(volumen.readAll()));
-        acces = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"acces"_s);
-        acces.setDatabaseName(u":memory:"_s);
-        QFile pendientes(QStringLiteral(NOMENCLA_FUENTES "/db/pendientes.sql"));
-        QVERIFY(acces.open() && pendientes.open(QIODevice::ReadOnly));
-        ejecutarSql(acces, QString::fromUtf8(pendientes.readAll()));
+        cargar(db, "db/volumen.sql");
+        acces = almacenPendientes();
         nomencla::observarSentencias(registrar);
     }
 

@@ -2,8 +2,6 @@
 // tests of every dialog don't see, with the rows checked afterwards.
 #include "tests/prueba_estructura.h"
 
-#include <nomencla/clsNomencla.h>
-
 #include <QApplication>
 
 using namespace Qt::StringLiterals;
@@ -17,15 +15,6 @@ void lugar(QWidget* d, const QString& nombre)
 {
     tx(d, 2)->insert(nombre); // keys carry Latin letters only
     tecla(tx(d, 3), Qt::Key_Return);
-}
-
-// A click on a row of the places: the grid takes the focus and picks it.
-void elegirLugar(QWidget* d, int fila)
-{
-    d->activateWindow(); // a message box may have taken the activation
-    QVERIFY(QTest::qWaitForWindowActive(d));
-    auto* gr2 = control<Alfarje>(d, u"GR2"_s);
-    QTest::mouseClick(gr2->viewport(), Qt::LeftButton, {}, gr2->visualRect(gr2->model()->index(fila, 0)).center());
 }
 
 } // namespace
@@ -75,7 +64,7 @@ private Q_SLOTS:
             lugar(d, u" xumbaco "_s);
             QCOMPARE(cajas.ultima(), u"El lugar ya se encuentra registrado en la lista!"_s);
             const auto vistas = cajas.vistas.size();
-            elegirLugar(d, 2);
+            clic(d, u"GR2"_s, 2);
             pulsar(d, u"Bt(4)"_s);
             QCOMPARE(cajas.vistas.size(), vistas);
             pulsar(d, u"Bt(0)"_s);
@@ -103,13 +92,13 @@ private Q_SLOTS:
             teclear(tx(d, 2), u"Cotocollao Bajo"_s);
             tecla(tx(d, 3), Qt::Key_Return);
 
-            elegirLugar(d, 0);
+            clic(d, u"GR2"_s, 0);
             pulsar(d, u"Bt(4)"_s);
             QCOMPARE(cajas.ultima(),
                      u"No se puede quitar el lugar ''Carcelén'' debido a que se encuentra asignado a uno o más clientes!"_s);
 
             // Picked Cotocollao, then the search moved the selection.
-            elegirLugar(d, 1);
+            clic(d, u"GR2"_s, 1);
             tx(d, 2)->setFocus();
             tx(d, 2)->setText(u"Cotocollao B"_s);
             cajas.responder(QMessageBox::Yes);
@@ -117,7 +106,7 @@ private Q_SLOTS:
             QCOMPARE(cajas.vistas[cajas.vistas.size() - 2].texto,
                      u"Está seguro que desea quitar el lugar ''Cotocollao Bajo'' de la base de datos?"_s);
 
-            elegirLugar(d, 1);
+            clic(d, u"GR2"_s, 1);
             dobleClic(gr, 1);
             lugar(d, u"Cotocollao Sur"_s); // the ordinal stays in its box
             pulsar(d, u"Bt(1)"_s);
