@@ -250,6 +250,12 @@ private Q_SLOTS:
         QStringList antes;
         bool visto = false;
         Cajas cajas;
+        const auto actuar = [&](QWidget* d) {
+            cajas.limpiar();
+            if (c.pregunta)
+                cajas.responder(QMessageBox::Yes);
+            c.actuar(d);
+        };
         alAbrir(c.forma, [&](QWidget* d) {
             d->activateWindow();
             QVERIFY(QTest::qWaitForWindowActive(d));
@@ -265,16 +271,12 @@ private Q_SLOTS:
                 ejecutarSql(db, u"SET SESSION innodb_lock_wait_timeout=30"_s);
                 ejecutarSql(otra, u"START TRANSACTION;\n"_s + c.sql);
                 const QString tabla = QRegularExpression(u"FROM (\\w+)"_s).match(c.sql).captured(1);
-                matar = alEsperarBloqueo(socketServidor(),
-                                         db.databaseName(), tabla, enEspera, [](QSqlQuery& q, qint64 sesion) {
-                                             if (sesion >= 0)
-                                                 q.exec(u"KILL CONNECTION "_s + QString::number(sesion));
-                                         });
+                matar = alEsperarBloqueo(socketServidor(), db.databaseName(), tabla, enEspera, [](QSqlQuery& q, qint64 s) {
+                    if (s >= 0)
+                        q.exec(u"KILL CONNECTION "_s + QString::number(s));
+                });
             }
-            cajas.limpiar();
-            if (c.pregunta)
-                cajas.responder(QMessageBox::Yes);
-            c.actuar(d);
+            actuar(d);
             if (matar.joinable()) {
                 matar.join();
                 QVERIFY(enEspera); // killed between the statements
@@ -288,10 +290,7 @@ private Q_SLOTS:
             QCOMPARE(cajas.ultima().contains(u"1205"_s), c.falla == Bloquear); // the lock wait, not the first statement
             QVERIFY(d->isVisible());
             QCOMPARE(foto(), antes); // read on the dialog's own connection: no open transaction left
-            cajas.limpiar();
-            if (c.pregunta)
-                cajas.responder(QMessageBox::Yes);
-            c.actuar(d);
+            actuar(d);
             if (!c.exito.isEmpty())
                 QCOMPARE(cajas.ultima(), c.exito);
             for (const Caja& vista : std::as_const(cajas.vistas))

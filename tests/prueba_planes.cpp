@@ -84,6 +84,8 @@ const QList<Caso> masCasos{
     {"frmLsComponente", "", abrir<nomencla::frmLsComponente>, "Text1=Pieza nueva; Bt(0); Text1=Pieza nueva; -Bt(2)"},
 };
 
+const QList<Caso> todos = casos + masCasos;
+
 // The statement with its values written in, as the driver quotes them.
 QString conValores(QSqlDatabase& db, const QString& sql, const QVariantList& valores)
 {
@@ -191,15 +193,13 @@ private Q_SLOTS:
 
     void cada_dialogo_data()
     {
-        QTest::addColumn<int>("caso");
-        for (int i = 0; i < casos.size() + masCasos.size(); ++i)
-            QTest::newRow(i < casos.size() ? casos[i].forma : masCasos[i - casos.size()].forma) << i;
+        porCaso(todos, [](const Caso& c) { return QString::fromUtf8(c.forma); });
     }
 
     void cada_dialogo()
     {
-        QFETCH(int, caso);
-        const Caso& c = caso < casos.size() ? casos.at(caso) : masCasos.at(caso - casos.size());
+        QFETCH(int, i);
+        const Caso& c = todos.at(i);
         Cajas cajas;
         alAbrir(QString::fromUtf8(c.forma), [&](QWidget* d) { seguir(d, cajas, c.pasos); });
         c.abrir(nomencla, u"1"_s, db);

@@ -116,7 +116,7 @@ void probar(QSqlDatabase& db, const Dialogo& dlg)
 const QList<Dialogo>& dialogos()
 {
     const QString bien = u"La información se ha guardado correctamente!"_s;
-    const QString exito = u"La información se ha guardado con éxito!"_s;
+    const QString exito = guardada;
     const QString incompleta = u"Debe ingresar toda la información antes de guardar!"_s;
     const QString nombre = u"Debe especificar el nombre "_s;
     static const QList<Dialogo> lista{
