@@ -177,12 +177,11 @@ struct Resultado {
 Resultado aLaVez(const QString& trabajo, const QList<int>& nodos, int veces)
 {
     std::vector<std::unique_ptr<QProcess>> procesos;
+    QProcessEnvironment entorno = QProcessEnvironment::systemEnvironment();
+    entorno.insert(u"QT_LOGGING_RULES"_s, u"default.warning=false"_s); // not the offscreen warning at every box
     for (int n = 0; n < nodos.size(); ++n) {
         auto p = std::make_unique<QProcess>();
         p->setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        // Without the offscreen platform's warning at every box.
-        QProcessEnvironment entorno = QProcessEnvironment::systemEnvironment();
-        entorno.insert(u"QT_LOGGING_RULES"_s, u"default.warning=false"_s);
         p->setProcessEnvironment(entorno);
         p->start(QCoreApplication::applicationFilePath(),
                  {u"oficinista"_s, trabajo, QString::number(nodos[n]), QString::number(n + 1), QString::number(veces)});
@@ -193,11 +192,7 @@ Resultado aLaVez(const QString& trabajo, const QList<int>& nodos, int veces)
         const bool fin = p->waitForFinished(400000) && p->exitCode() == 0;
         const QString salida = QString::fromLocal8Bit(p->readAllStandardOutput());
         const auto m = QRegularExpression(u"errores=(\\d+) conflictos=(\\d+)"_s).match(salida);
-        if (!fin || !m.hasMatch()) {
-            r.errores += 1000;
-            continue;
-        }
-        r.errores += m.captured(1).toInt();
+        r.errores += fin && m.hasMatch() ? m.captured(1).toInt() : 1000;
         r.conflictos += m.captured(2).toULongLong();
     }
     return r;
