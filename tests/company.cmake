@@ -1,3 +1,1 @@
 nomencla_prueba(prueba_empresas prueba_empresas.cpp prueba_estructura.h)
-nomencla_prueba(prueba_sucursales prueba_sucursales.cpp prueba_estructura.h)
-nomencla_prueba(prueba_subproveedores prueba_subproveedores.cpp prueba_estructura.h)

@@ -1,2 +1,1 @@
-nomencla_prueba(prueba_lotes prueba_lotes.cpp)
-nomencla_prueba(prueba_caducidades prueba_caducidades.cpp)
+nomencla_prueba(prueba_lotes prueba_lotes.cpp prueba_estructura.h)

@@ -6,9 +6,17 @@
 
 #include "core/Alfarje.h"
 
+#include <nomencla/clsNomencla.h>
+
 #include <QLineEdit>
 
 namespace prueba {
+
+// A maintenance method of the public class.
+using Metodo = bool (clsNomencla::*)(const QString&, QSqlDatabase&);
+
+// The box of a save in the coded and named lists and the company dialogs.
+inline const QString guardada = QStringLiteral("La información se ha guardado con éxito!");
 
 // The dialog's one-line box Tx(i).
 inline QLineEdit* tx(QWidget* d, int i)
@@ -43,6 +51,16 @@ inline void dobleClic(nomencla::Alfarje* gr, int fila)
     gr->scrollTo(gr->model()->index(fila, 0));
     const QPoint punto = gr->visualRect(gr->model()->index(fila, 0)).center();
     QTest::mouseDClick(gr->viewport(), Qt::LeftButton, {}, punto);
+}
+
+// A click on a row of the grid `nombre` of the active dialog `d`, as the
+// clerk's own (a message box may have taken the activation).
+inline void clic(QWidget* d, const QString& nombre, int fila)
+{
+    d->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(d));
+    auto* gr = control<nomencla::Alfarje>(d, nombre);
+    QTest::mouseClick(gr->viewport(), Qt::LeftButton, {}, gr->visualRect(gr->model()->index(fila, 0)).center());
 }
 
 } // namespace prueba

@@ -5,15 +5,9 @@
 // usable and the same operation works once the fault is gone.
 #include "tests/prueba_estructura.h"
 
-#include "core/Alfarje.h"
-
-#include <nomencla/clsNomencla.h>
-
-#include <QFile>
 #include <QLineEdit>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QSqlError>
 #include <QTemporaryDir>
 #include <QThread>
 
@@ -37,17 +31,11 @@ bool privdb(const QString& orden, const QString& dir)
 // "nf"; the connection `nombre` to it, open (closed on failure).
 QSqlDatabase servidorPropio(const QString& dir, const QString& nombre)
 {
-    QSqlDatabase propia = QSqlDatabase::addDatabase(u"QMYSQL"_s, nombre);
     if (!privdb(u"start"_s, dir))
-        return propia;
-    propia.setHostName(u"localhost"_s);
-    propia.setUserName(u"root"_s);
-    propia.setConnectOptions(u"UNIX_SOCKET="_s + dir + u"/mysqld.sock"_s);
-    QFile esquema(QStringLiteral(NOMENCLA_FUENTES "/db/schema.sql"));
-    if (!propia.open() || !esquema.open(QIODevice::ReadOnly))
-        return propia;
+        return QSqlDatabase::addDatabase(u"QMYSQL"_s, nombre);
+    QSqlDatabase propia = conexion(nombre, dir + u"/mysqld.sock"_s);
     ejecutarSql(propia, u"CREATE DATABASE nf;\nUSE nf"_s);
-    ejecutarSql(propia, QString::fromUtf8(esquema.readAll()));
+    cargar(propia, "db/schema.sql");
     propia.close();
     propia.setDatabaseName(u"nf"_s);
     propia.open();
@@ -63,15 +51,12 @@ std::thread alEsperarBloqueo(const QString& socket, const QString& base, const Q
 {
     return std::thread([socket, base, tabla, &enEspera, accion = std::move(accion)] {
         {
-            QSqlDatabase vigia = QSqlDatabase::addDatabase(u"QMYSQL"_s, u"vigia"_s);
-            vigia.setUserName(u"root"_s);
-            vigia.setDatabaseName(base);
-            vigia.setConnectOptions(u"UNIX_SOCKET="_s + socket);
+            QSqlDatabase vigia = conexion(u"vigia"_s, socket, base);
             qint64 sesion = -1;
             // SHOW PROCESSLIST rather than its information_schema table: the
             // server's temporary tables for the latter, polled while other
             // tests read information_schema, have brought the server down.
-            if (vigia.open()) {
+            if (vigia.isOpen()) {
                 QSqlQuery q(vigia);
                 for (int i = 0; i < 150 && sesion < 0; ++i) {
                     if (q.exec(u"SHOW FULL PROCESSLIST"_s)) {
@@ -99,7 +84,6 @@ std::thread alEsperarBloqueo(const QString& socket, const QString& base, const Q
 enum Falla { Matar, MatarEnEspera, Bloquear };
 
 using Pasos = std::function<void(QWidget*)>;
-using Metodo = bool (clsNomencla::*)(const QString&, QSqlDatabase&);
 
 struct Caso {
     QByteArray nombre;
@@ -140,7 +124,6 @@ void lugar(QWidget* d, const QString& nombre)
     tecla(tx(d, 3), Qt::Key_Return);
 }
 
-const QString guardada = u"La información se ha guardado con éxito!"_s;
 const QString quitada = u"La operación se realizó correctamente!"_s;
 const QStringList empresa{u"SELECT cod,emp,est FROM empresas ORDER BY cod"_s,
                           u"SELECT id,nom,emp FROM Sucursales ORDER BY nom"_s};
@@ -188,10 +171,7 @@ const QList<Caso>& casos()
          u"SELECT * FROM mCliente WHERE zon=1 FOR UPDATE"_s,
          [](QWidget* d) {
              elegir(u"Norte"_s)(d);
-             d->activateWindow();
-             QVERIFY(QTest::qWaitForWindowActive(d));
-             auto* gr2 = grilla(d, u"GR2"_s);
-             QTest::mouseClick(gr2->viewport(), Qt::LeftButton, {}, gr2->visualRect(gr2->model()->index(0, 0)).center());
+             clic(d, u"GR2"_s, 0);
              QCOMPARE(tx(d, 2)->text(), u"Carcelén"_s);
              tx(d, 2)->setText(u"Carcelén Alto"_s);
              tx(d, 3)->setText(u"4"_s);
@@ -237,9 +217,7 @@ private Q_SLOTS:
 
     void operacion_con_falla_data()
     {
-        QTest::addColumn<int>("i");
-        for (int i = 0; i < casos().size(); ++i)
-            QTest::newRow(casos()[i].nombre.constData()) << i;
+        porCaso(casos(), [](const Caso& c) { return QString::fromUtf8(c.nombre); });
     }
 
     // The fault, the critical box, the rows as before; the fault gone, the same
@@ -272,6 +250,12 @@ private Q_SLOTS:
         QStringList antes;
         bool visto = false;
         Cajas cajas;
+        const auto actuar = [&](QWidget* d) {
+            cajas.limpiar();
+            if (c.pregunta)
+                cajas.responder(QMessageBox::Yes);
+            c.actuar(d);
+        };
         alAbrir(c.forma, [&](QWidget* d) {
             d->activateWindow();
             QVERIFY(QTest::qWaitForWindowActive(d));
@@ -287,16 +271,12 @@ private Q_SLOTS:
                 ejecutarSql(db, u"SET SESSION innodb_lock_wait_timeout=30"_s);
                 ejecutarSql(otra, u"START TRANSACTION;\n"_s + c.sql);
                 const QString tabla = QRegularExpression(u"FROM (\\w+)"_s).match(c.sql).captured(1);
-                matar = alEsperarBloqueo(qEnvironmentVariable("NOMENCLA_TEST_SOCKET", QStringLiteral(NOMENCLA_SOCKET)),
-                                         db.databaseName(), tabla, enEspera, [](QSqlQuery& q, qint64 sesion) {
-                                             if (sesion >= 0)
-                                                 q.exec(u"KILL CONNECTION "_s + QString::number(sesion));
-                                         });
+                matar = alEsperarBloqueo(socketServidor(), db.databaseName(), tabla, enEspera, [](QSqlQuery& q, qint64 s) {
+                    if (s >= 0)
+                        q.exec(u"KILL CONNECTION "_s + QString::number(s));
+                });
             }
-            cajas.limpiar();
-            if (c.pregunta)
-                cajas.responder(QMessageBox::Yes);
-            c.actuar(d);
+            actuar(d);
             if (matar.joinable()) {
                 matar.join();
                 QVERIFY(enEspera); // killed between the statements
@@ -310,10 +290,7 @@ private Q_SLOTS:
             QCOMPARE(cajas.ultima().contains(u"1205"_s), c.falla == Bloquear); // the lock wait, not the first statement
             QVERIFY(d->isVisible());
             QCOMPARE(foto(), antes); // read on the dialog's own connection: no open transaction left
-            cajas.limpiar();
-            if (c.pregunta)
-                cajas.responder(QMessageBox::Yes);
-            c.actuar(d);
+            actuar(d);
             if (!c.exito.isEmpty())
                 QCOMPARE(cajas.ultima(), c.exito);
             for (const Caja& vista : std::as_const(cajas.vistas))

@@ -3,16 +3,8 @@
 // leaves every row of tenant '2' exactly as it was.
 #include "tests/recorrido.h"
 
-#include <nomencla/clsNomencla.h>
-
-#include <QFile>
-
 using namespace Qt::StringLiterals;
 using namespace prueba;
-
-namespace {
-
-} // namespace
 
 class PruebaInquilinos : public QObject {
     Q_OBJECT
@@ -25,9 +17,7 @@ private Q_SLOTS:
     void initTestCase()
     {
         db = baseNueva(u"t_inquilinos"_s);
-        QFile demo(QStringLiteral(NOMENCLA_FUENTES "/db/demo.sql"));
-        QVERIFY(demo.open(QIODevice::ReadOnly));
-        ejecutarSql(db, QString::fromUtf8(demo.readAll()));
+        cargar(db, "db/demo.sql");
         ejecutarSql(db, QString::fromUtf8(sinReferencias));
         // Tenant '2' gets a twin of every row of tenant '1' (codes per tenant
         // kept, where tenant '2' already holds the code its own row stays).
@@ -50,15 +40,13 @@ private Q_SLOTS:
     // (the first dialog to fail is the one to blame).
     void cada_dialogo_data()
     {
-        QTest::addColumn<int>("caso");
-        for (int i = 0; i < casos.size(); ++i)
-            QTest::newRow(casos[i].forma) << i;
+        porCaso(casos, [](const Caso& c) { return QString::fromUtf8(c.forma); });
     }
 
     void cada_dialogo()
     {
-        QFETCH(int, caso);
-        const Caso& c = casos.at(caso);
+        QFETCH(int, i);
+        const Caso& c = casos.at(i);
         const QStringList tablas = QString::fromUtf8(c.tablas).split(u' ');
         QList<QStringList> antes1;
         for (const QString& t : tablas)
@@ -70,8 +58,8 @@ private Q_SLOTS:
             return;
         QVERIFY(hubo);
         QVERIFY(!cajas.sinRespuesta);
-        for (int i = 0; i < tablas.size(); ++i)
-            QVERIFY2(foto(db, tablas[i], u"1"_s) != antes1[i], qPrintable(u"tenant 1 unchanged in "_s + tablas[i]));
+        for (int t = 0; t < tablas.size(); ++t)
+            QVERIFY2(foto(db, tablas[t], u"1"_s) != antes1[t], qPrintable(u"tenant 1 unchanged in "_s + tablas[t]));
         for (auto [t, antes] : antes2.asKeyValueRange())
             QVERIFY2(foto(db, t, u"2"_s) == antes, qPrintable(u"tenant 2 changed in "_s + t));
     }

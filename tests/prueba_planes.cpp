@@ -84,6 +84,8 @@ const QList<Caso> masCasos{
     {"frmLsComponente", "", abrir<nomencla::frmLsComponente>, "Text1=Pieza nueva; Bt(0); Text1=Pieza nueva; -Bt(2)"},
 };
 
+const QList<Caso> todos = casos + masCasos;
+
 // The statement with its values written in, as the driver quotes them.
 QString conValores(QSqlDatabase& db, const QString& sql, const QVariantList& valores)
 {
@@ -180,33 +182,24 @@ private Q_SLOTS:
     void initTestCase()
     {
         db = baseNueva(u"t_planes"_s);
-        QFile demo(QStringLiteral(NOMENCLA_FUENTES "/db/demo.sql"));
-        QFile volumen(QStringLiteral(NOMENCLA_FUENTES "/db/volumen.sql"));
-        QVERIFY(demo.open(QIODevice::ReadOnly) && volumen.open(QIODevice::ReadOnly));
-        ejecutarSql(db, QString::fromUtf8(demo.readAll()));
+        cargar(db, "db/demo.sql");
         ejecutarSql(db, QString::fromUtf8(sinReferencias));
         ejecutarSql(db, u"SET @inquilino='1', @filas=%1, @vecinos=19, @filas_vecino=%2"_s.arg(filasInquilino)
                             .arg(filasInquilino * 2 / 19));
-        ejecutarSql(db, QString::fromUtf8(volumen.readAll()));
-        acces = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"acces"_s);
-        acces.setDatabaseName(u":memory:"_s);
-        QFile pendientes(QStringLiteral(NOMENCLA_FUENTES "/db/pendientes.sql"));
-        QVERIFY(acces.open() && pendientes.open(QIODevice::ReadOnly));
-        ejecutarSql(acces, QString::fromUtf8(pendientes.readAll()));
+        cargar(db, "db/volumen.sql");
+        acces = almacenPendientes();
         nomencla::observarSentencias(registrar);
     }
 
     void cada_dialogo_data()
     {
-        QTest::addColumn<int>("caso");
-        for (int i = 0; i < casos.size() + masCasos.size(); ++i)
-            QTest::newRow(i < casos.size() ? casos[i].forma : masCasos[i - casos.size()].forma) << i;
+        porCaso(todos, [](const Caso& c) { return QString::fromUtf8(c.forma); });
     }
 
     void cada_dialogo()
     {
-        QFETCH(int, caso);
-        const Caso& c = caso < casos.size() ? casos.at(caso) : masCasos.at(caso - casos.size());
+        QFETCH(int, i);
+        const Caso& c = todos.at(i);
         Cajas cajas;
         alAbrir(QString::fromUtf8(c.forma), [&](QWidget* d) { seguir(d, cajas, c.pasos); });
         c.abrir(nomencla, u"1"_s, db);

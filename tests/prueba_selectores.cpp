@@ -4,12 +4,9 @@
 
 #include "core/Controles.h"
 
-#include <nomencla/clsNomencla.h>
-
 #include <QApplication>
 #include <QComboBox>
 #include <QDateEdit>
-#include <QFile>
 #include <QLabel>
 
 using namespace Qt::StringLiterals;
@@ -48,13 +45,7 @@ class PruebaSelectores : public QObject {
 private Q_SLOTS:
     void initTestCase()
     {
-        // The second store of the host, as the demo has it: SQLite.
-        acces = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"acces"_s);
-        acces.setDatabaseName(u":memory:"_s);
-        QVERIFY(acces.open());
-        QFile tabla(QStringLiteral(NOMENCLA_FUENTES "/db/pendientes.sql"));
-        QVERIFY(tabla.open(QIODevice::ReadOnly));
-        ejecutarSql(acces, QString::fromUtf8(tabla.readAll()));
+        acces = almacenPendientes();
         ejecutarSql(acces, u"DELETE FROM BkUpfac;\n"
                            "INSERT INTO BkUpfac (id,cod,numdoc,tip) VALUES "
                            "('1',11,'001-001-11',1),('1',11,'001-001-11',1),('1',12,'001-001-12a',1),('1',12,'001-001-12b',1),"
@@ -221,14 +212,15 @@ private Q_SLOTS:
 
     // This year's dates of the company; setting a listed date selects its
     // row. That date is refused as a new one, and a removal answered No keeps
-    // it.
+    // it; no date changes (other years, the limits, none).
     void fechas_iva()
     {
         const int anio = QDate::currentDate().year();
-        const QDate enero(anio, 1, 10), marzo(anio, 3, 5);
-        const auto iso = [](QDate f) { return f.toString(Qt::ISODate); };
-        ejecutarSql(db, u"INSERT INTO FechaIVAdif (id,fec,iva) VALUES ('1','%1',8),('1','%2',8),('1','%3-12-31',8),"
-                        "('2','%1',8)"_s.arg(iso(marzo), iso(enero)).arg(anio - 1));
+        const QDate marzo(anio, 3, 5);
+        ejecutarSql(db, u"INSERT INTO FechaIVAdif (id,fec,iva) VALUES ('1','%1',8),('1','%2-01-10',8),('1','%3-12-31',8),"
+                        "('2','%1',8),('1','1000-01-01',8),('1','9999-12-31',12),('1',NULL,8)"_s
+                            .arg(marzo.toString(Qt::ISODate)).arg(anio).arg(anio - 1));
+        const QStringList antes = foto(db, u"FechaIVAdif"_s);
         Cajas cajas;
         alAbrir(u"frmListaFechasIVA"_s, [&](QWidget* d) {
             auto* gr = control<Alfarje>(d, u"GR"_s);
@@ -241,8 +233,7 @@ private Q_SLOTS:
             pulsar(d, u"Bt(2)"_s);
         });
         nomencla.ListaFechasIVA(u"1"_s, db);
-        QCOMPARE(filas(db, u"SELECT fec FROM FechaIVAdif WHERE id='1' ORDER BY fec"_s),
-                 (QStringList{u"%1-12-31"_s.arg(anio - 1), iso(enero), iso(marzo)}));
+        QCOMPARE(foto(db, u"FechaIVAdif"_s), antes);
     }
 };
 

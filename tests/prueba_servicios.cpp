@@ -1,12 +1,16 @@
 // The services against the private server: key filter, dates and numbers,
-// value-to-label expressions, grid and combo filling, image storage.
+// value-to-label expressions, grid and combo filling, image storage; the
+// public class and the shared state.
 #include "tests/support/Prueba.h"
 
 #include "core/Alfarje.h"
 #include "core/BaseDatos.h"
 #include "core/Controles.h"
+#include "core/Module1.h"
 #include "core/clsGrillas.h"
 #include "core/clsServicios.h"
+
+#include <nomencla/clsNomencla.h>
 
 #include <QComboBox>
 #include <QTemporaryDir>
@@ -113,6 +117,24 @@ private Q_SLOTS:
         QVERIFY(!guardar(u"empresas; DROP"_s, "otro"));
         QVERIFY(guardar(u"empresas"_s, "otro", u"8"_s)); // another tenant's key: no row
         QCOMPARE(valor(db, u"SELECT logo FROM empresas WHERE cod=?"_s, {cod}).toByteArray(), bytes.chopped(1));
+    }
+
+    // ConfirmaUsuario only keeps the company and the connection. The end of
+    // an object gives up the shared services and nothing else; the next call
+    // makes them again and still works.
+    void confirma_usuario_y_fin_del_objeto()
+    {
+        {
+            clsNomencla n;
+            QVERIFY(!n.ConfirmaUsuario(u"42"_s, db, 7));
+            QCOMPARE(M().IdEmp, u"42"_s);
+            M().grillas();
+        }
+        QVERIFY(!M().Grillas);
+        QCOMPARE(M().Conexion.databaseName(), db.databaseName());
+        alAbrir(u"frmLsDepartam"_s, [](QWidget*) {});
+        QVERIFY(!clsNomencla::aplicacion().Departamentos(u"1"_s, db));
+        QVERIFY(M().Grillas);
     }
 };
 

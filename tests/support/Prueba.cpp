@@ -10,18 +10,48 @@ using namespace Qt::StringLiterals;
 
 namespace prueba {
 
-static QSqlDatabase conectar(const QString& nombreConexion, const QString& base)
+QSqlDatabase conexion(const QString& nombreConexion, const QString& socket, const QString& base)
 {
     QSqlDatabase db = QSqlDatabase::contains(nombreConexion) ? QSqlDatabase::database(nombreConexion, false)
                                                              : QSqlDatabase::addDatabase(u"QMYSQL"_s, nombreConexion);
     db.setHostName(u"localhost"_s);
     db.setUserName(u"root"_s);
-    const QByteArray socket = qgetenv("NOMENCLA_TEST_SOCKET");
-    db.setConnectOptions(u"UNIX_SOCKET="_s + (socket.isEmpty() ? QStringLiteral(NOMENCLA_SOCKET) : QString::fromLocal8Bit(socket)));
+    db.setConnectOptions(u"UNIX_SOCKET="_s + socket);
     db.setDatabaseName(base);
     if (!db.open())
-        qFatal("no connection to the private server: %s", qPrintable(db.lastError().text()));
+        qWarning("no connection to %s: %s", qPrintable(socket), qPrintable(db.lastError().text()));
     return db;
+}
+
+QString socketServidor()
+{
+    return qEnvironmentVariable("NOMENCLA_TEST_SOCKET", QStringLiteral(NOMENCLA_SOCKET));
+}
+
+static QSqlDatabase conectar(const QString& nombreConexion, const QString& base)
+{
+    QSqlDatabase db = conexion(nombreConexion, socketServidor(), base);
+    if (!db.isOpen())
+        qFatal("no connection to the private server");
+    return db;
+}
+
+void cargar(QSqlDatabase& db, const char* archivo)
+{
+    QFile f(QStringLiteral(NOMENCLA_FUENTES "/") + QString::fromUtf8(archivo));
+    if (!f.open(QIODevice::ReadOnly))
+        qFatal("%s missing", archivo);
+    ejecutarSql(db, QString::fromUtf8(f.readAll()));
+}
+
+QSqlDatabase almacenPendientes()
+{
+    QSqlDatabase acces = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"acces"_s);
+    acces.setDatabaseName(u":memory:"_s);
+    if (!acces.open())
+        qFatal("no SQLite store");
+    cargar(acces, "db/pendientes.sql");
+    return acces;
 }
 
 void ejecutarSql(QSqlDatabase& db, const QString& sql)
@@ -53,10 +83,7 @@ QSqlDatabase baseNueva(const QString& nombre)
             qFatal("cannot create database %s: %s", qPrintable(nombre), qPrintable(q.lastError().text()));
     }
     QSqlDatabase db = conectar(nombre, nombre);
-    QFile esquema(QStringLiteral(NOMENCLA_FUENTES "/db/schema.sql"));
-    if (!esquema.open(QIODevice::ReadOnly))
-        qFatal("db/schema.sql missing");
-    ejecutarSql(db, QString::fromUtf8(esquema.readAll()));
+    cargar(db, "db/schema.sql");
     return db;
 }
 

@@ -19,6 +19,16 @@ namespace prueba {
 QSqlDatabase baseNueva(const QString& nombre);
 // Another connection to the same database, as a second clerk.
 QSqlDatabase otraConexion(const QSqlDatabase& base, const QString& nombreConexion);
+// The connection `nombreConexion` to `base` on the server behind `socket`,
+// opened (a warning when it cannot be).
+QSqlDatabase conexion(const QString& nombreConexion, const QString& socket, const QString& base = {});
+// The socket of the private server the tests use.
+QString socketServidor();
+// Runs a file of SQL of the sources ("db/demo.sql").
+void cargar(QSqlDatabase& db, const char* archivo);
+// The host's second store, as the demo has it: SQLite in memory with the
+// table of pending documents.
+QSqlDatabase almacenPendientes();
 // Runs statements (separated by ";\n"); fails the test on error.
 void ejecutarSql(QSqlDatabase& db, const QString& sql);
 // A single value.
@@ -73,6 +83,15 @@ template <class T> T* control(QWidget* dialogo, const QString& nombre)
     if (!w)
         qWarning("control %s not found", qPrintable(nombre));
     return w;
+}
+
+// The data of a test run once a case: column "i", the index of the case in
+// `casos`, the row named by `nombre` of it.
+template <class L, class F> void porCaso(const L& casos, F nombre)
+{
+    QTest::addColumn<int>("i");
+    for (int i = 0; i < int(casos.size()); ++i)
+        QTest::newRow(qPrintable(nombre(casos[i]))) << i;
 }
 
 // Types text into a widget, as keys.

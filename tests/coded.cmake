@@ -1,2 +1,0 @@
-nomencla_prueba(prueba_listas_codificadas prueba_listas_codificadas.cpp)
-nomencla_prueba(prueba_tipos_cliente prueba_tipos_cliente.cpp)

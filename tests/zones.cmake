@@ -1,1 +1,0 @@
-nomencla_prueba(prueba_zonas prueba_zonas.cpp)
