@@ -51,16 +51,6 @@ void importarArchivo(QWidget* d, const QString& archivo, std::function<void(QWid
     nomencla::setElectorArchivo({});
 }
 
-// The preview's verdicts, one per line of the file.
-QStringList estados(QWidget* vista)
-{
-    auto* gr = control<Alfarje>(vista, u"GR"_s);
-    QStringList r;
-    for (int f = 0; f < gr->RowCount(); ++f)
-        r.append(gr->CellText(f, gr->model()->columnCount() - 1));
-    return r;
-}
-
 const QString kAgrega = u"Se agrega"_s;
 const QString kExiste = u"Se omite: ya está en la lista"_s;
 
@@ -190,7 +180,11 @@ private Q_SLOTS:
             auto* gr = control<Alfarje>(d, u"GR"_s);
             filasAntes = gr->RowCount();
             importarArchivo(d, ruta, [&](QWidget* vista) {
-                QCOMPARE(estados(vista), veredictos);
+                auto* lista = control<Alfarje>(vista, u"GR"_s);
+                QStringList vistos; // the verdicts, in the last column
+                for (int f = 0; f < lista->RowCount(); ++f)
+                    vistos << lista->CellText(f, lista->model()->columnCount() - 1);
+                QCOMPARE(vistos, veredictos);
                 QVERIFY(cajas.vistas.isEmpty());
                 pulsar(vista, u"Bt(0)"_s);
             });
@@ -280,6 +274,7 @@ private Q_SLOTS:
             QVERIFY(aviso->isHidden());
             dobleClic(gr, filaCon(gr, u"A-01"_s));
             QVERIFY(!aviso->isHidden());
+            QVERIFY(aviso->toolTip().contains(u"verificador"_s)); // the reason
             auto* ruc = tx(d, 1);
             ruc->setFocus();
             ruc->end(false);
