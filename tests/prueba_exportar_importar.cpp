@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QElapsedTimer>
+#include <QFileDialog>
 #include <QLabel>
 #include <QMenu>
 #include <QTemporaryDir>
@@ -149,8 +150,24 @@ private Q_SLOTS:
             QCOMPARE(cajas.vistas[0].icono, QMessageBox::Critical);
             QVERIFY(cajas.ultima().contains(QDir::toNativeSeparators(elegido)));
             QCOMPARE(QDir(carpeta.path()).entryList(QDir::Files), QStringList{u"ciudades.csv"_s});
+
+            // Without a chooser of the test's, a real file dialog asks, the caption as the name.
+            nomencla::exportar::setElectorGuardar({});
+            const QString real = carpeta.filePath(u"real.csv"_s);
+            QString propuesto;
+            QTimer::singleShot(0, [&] {
+                auto* fd = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+                QVERIFY(fd);
+                propuesto = fd->selectedFiles().value(0);
+                fd->selectFile(real);
+                QMetaObject::invokeMethod(fd, "accept");
+            });
+            disparar(d, u"ExportarCSV"_s);
+            QCOMPARE(QFileInfo(propuesto).fileName(), u"Lista de ciudades.csv"_s);
+            QCOMPARE(leerArchivo(real), leerArchivo(destino));
         });
         QVERIFY(!nomencla.Ciudades(u"1"_s, db));
+        nomencla::exportar::setElectorGuardar([&](QWidget*, const QString&, const QString&) { return elegido; });
 
         // A coded list: the hidden key stays out. A list without imports still copies.
         elegido = destino;
