@@ -30,7 +30,7 @@ bool privdb(const QString& orden, const QString& dir)
 {
     QProcess p;
     p.start(QStringLiteral(NOMENCLA_FUENTES "/scripts/privdb"), {orden, dir});
-    return p.waitForFinished(120000) && p.exitCode() == 0;
+    return p.waitForFinished(300000) && p.exitCode() == 0; // a new data directory is slow on a busy machine
 }
 
 // A server of its own in `dir`, started, with the schema in its database
@@ -64,7 +64,7 @@ std::thread alEsperarBloqueo(const QString& socket, const QString& base, const Q
             // tests read information_schema, have brought the server down.
             if (vigia.isOpen()) {
                 QSqlQuery q(vigia);
-                for (int i = 0; i < 150 && sesion < 0; ++i) {
+                for (int i = 0; i < 250 && sesion < 0; ++i) {
                     if (q.exec(u"SHOW FULL PROCESSLIST"_s)) {
                         while (q.next())
                             if (q.value(u"db"_s).toString() == base && q.value(u"Time"_s).toInt() >= 1
