@@ -1,9 +1,8 @@
 // Hostile text pasted into the boxes: stored and read back exactly (trimmed,
 // control characters as blanks, cut at the box's length), and no other row
 // changes; boxes for numbers take only numbers.
-#include "tests/prueba_estructura.h"
+#include "tests/edicion.h"
 
-#include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRegularExpression>
@@ -45,29 +44,6 @@ QString guardable(QString t, int largo, bool varias)
     return t.trimmed();
 }
 
-struct Caja {
-    QString nombre;
-    QString columna;
-    int largo;
-    bool varias = false;
-    int minimo = -1; // shorter is refused; -1: the dialog's
-};
-
-using Pasos = std::function<void(QWidget*)>;
-
-struct Dialogo {
-    QString forma;
-    std::function<bool(clsNomencla&, const QString&, QSqlDatabase&)> abrir;
-    QString tabla, clave;
-    QString listo;  // the message of a save
-    int minimo;     // shorter (trimmed) is refused
-    QString corto;  // with this message ("": silently)
-    QList<Caja> cajas;
-    QString previas = {}; // rows needed before; a row of each tenant is added
-    Pasos preparar = {};  // before each save, after the boxes
-    Pasos guardar = [](QWidget* d) { pulsar(d, u"Bt(0)"_s); };
-};
-
 // Every input pasted into every box of the dialog (the other boxes filled
 // with plain text), saved, and the new row read back; older rows unchanged.
 void probar(QSqlDatabase& db, const Dialogo& dlg)
@@ -82,12 +58,15 @@ void probar(QSqlDatabase& db, const Dialogo& dlg)
     Cajas cajas;
     int relleno = 0;
     alAbrir(dlg.forma, [&](QWidget* d) {
-        for (const Caja& caja : dlg.cajas) {
+        for (const Campo& caja : dlg.cajas) {
+            if (caja.tipo != Tipo::Texto)
+                continue;
             QStringList lista = entradas;
             lista << QString(caja.largo, u'y') + u"z"_s << QString(caja.largo - 1, u'x') + u"😀"_s;
             for (const QString& pegado : lista) {
-                for (const Caja& otra : dlg.cajas)
-                    control<QWidget>(d, otra.nombre)->setProperty("text", u"r%1"_s.arg(++relleno, 2, 10, QChar(u'0')));
+                for (const Campo& otra : dlg.cajas)
+                    if (otra.tipo == Tipo::Texto)
+                            control<QWidget>(d, otra.nombre)->setProperty("text", u"r%1"_s.arg(++relleno, 2, 10, QChar(u'0')));
                 if (dlg.preparar)
                     dlg.preparar(d);
                 QWidget* w = control<QWidget>(d, caja.nombre);
@@ -111,69 +90,6 @@ void probar(QSqlDatabase& db, const Dialogo& dlg)
     clsNomencla nomencla;
     QVERIFY(dlg.abrir(nomencla, u"1"_s, db));
     QCOMPARE(filas(db, todas).mid(0, viejas.size()), viejas);
-}
-
-const QList<Dialogo>& dialogos()
-{
-    const QString bien = u"La información se ha guardado correctamente!"_s;
-    const QString exito = guardada;
-    const QString incompleta = u"Debe ingresar toda la información antes de guardar!"_s;
-    const QString nombre = u"Debe especificar el nombre "_s;
-    static const QList<Dialogo> lista{
-        {u"frmLsCiudad"_s, &clsNomencla::Ciudades, u"lsCiudades"_s, u"pk"_s, bien, 1, nombre + u"de la ciudad!"_s,
-         {{u"Text1"_s, u"ciu"_s, 25}}},
-        {u"frmLsDepartam"_s, &clsNomencla::Departamentos, u"lsDepartam"_s, u"pk"_s, bien, 1,
-         nombre + u"del departamento!"_s, {{u"Text1"_s, u"depa"_s, 25}}},
-        {u"frmLsContenido"_s, &clsNomencla::Contenidos, u"lsContenidos"_s, u"cod"_s, bien, 1,
-         nombre + u"del objeto!"_s, {{u"Text1"_s, u"nom"_s, 25}}},
-        {u"frmMedidas"_s, &clsNomencla::Medidas, u"aMedidas"_s, u"pk"_s, bien, 1,
-         u"Debe especificar el nombre y la abreviación de la medida/presentacion!"_s,
-         {{u"Text1"_s, u"med"_s, 20}, {u"Text2"_s, u"abr"_s, 10}}},
-        {u"frmLsCategorias"_s, &clsNomencla::CategoriaClientes, u"mCatClie"_s, u"pk"_s, exito, 2,
-         nombre + u"de la categoría!"_s, {{u"Tx(0)"_s, u"cat"_s, 50}, {u"Tx(1)"_s, u"des"_s, 150, true}}},
-        {u"frmLsDocAutSRI"_s, &clsNomencla::DocumentAutorizSRI, u"SRI_Documentos"_s, u"cod"_s, exito, 2,
-         nombre + u"del documento autorizado por el SRI!"_s, {{u"Tx(0)"_s, u"cin"_s, 3}, {u"Tx(1)"_s, u"des"_s, 30}}},
-        {u"frmLsSustentos"_s, &clsNomencla::SustentoTributario, u"SRI_Sustentos"_s, u"cod"_s, exito, 2,
-         nombre + u"del sustento tributario autorizado por el SRI!"_s,
-         {{u"Tx(0)"_s, u"cin"_s, 3}, {u"Tx(1)"_s, u"des"_s, 150}}},
-        {u"frmLsCargos"_s, &clsNomencla::Cargos, u"Cargos"_s, u"cod"_s, exito, 2, nombre + u"del cargo!"_s,
-         {{u"Tx(0)"_s, u"car"_s, 50}, {u"Tx(1)"_s, u"des"_s, 150, true}}},
-        {u"frmLsTipoCli"_s, &clsNomencla::TipoClientes, u"mTipClie"_s, u"pk"_s, exito, 2,
-         nombre + u"del tipo de cliente!"_s, {{u"Tx(0)"_s, u"tip"_s, 50}, {u"Tx(1)"_s, u"des"_s, 150, true}}},
-        {u"frmLsZona"_s, &clsNomencla::ZonaClientes, u"mZonaClie"_s, u"pk"_s, exito, 2, nombre + u"de la zona!"_s,
-         {{u"Tx(0)"_s, u"zon"_s, 50}, {u"Tx(1)"_s, u"des"_s, 150, true}}},
-        {u"frmLsContratos"_s, &clsNomencla::Contratos, u"lscontratos"_s, u"cod"_s, exito, 2, {},
-         {{u"Text1"_s, u"con"_s, 60}}},
-        {u"frmLsCuentas"_s, &clsNomencla::Cuentas, u"lsCuentas"_s, u"cod"_s, exito, 2, {}, {{u"Text1"_s, u"cta"_s, 60}}},
-        {u"frmLsPaises"_s, &clsNomencla::Paises, u"lsPaises"_s, u"cod"_s, exito, 6, {}, {{u"Text1"_s, u"nom"_s, 60}}},
-        {u"frmLsBancos"_s, &clsNomencla::Bancos, u"lsBancos"_s, u"cod"_s, exito, 6, {}, {{u"Text1"_s, u"nom"_s, 60}}},
-        {u"frmEmpresas"_s, &clsNomencla::Empresas, u"empresas"_s, u"cod"_s, exito, 1, incompleta,
-         {{u"Tx(0)"_s, u"emp"_s, 120}, {u"Tx(2)"_s, u"dir"_s, 120}, {u"Tx(3)"_s, u"tel"_s, 12},
-          {u"Tx(4)"_s, u"ciu"_s, 25}, {u"Tx(5)"_s, u"prov"_s, 50}, {u"Tx(6)"_s, u"nart"_s, 25, false, 0}}},
-        {u"frmSucursales"_s, &clsNomencla::Sucursales, u"Sucursales"_s, u"cod"_s, exito, 1, incompleta,
-         {{u"Tx(0)"_s, u"ciu"_s, 25}, {u"Tx(1)"_s, u"nom"_s, 60}, {u"Tx(2)"_s, u"dir"_s, 100},
-          {u"Tx(3)"_s, u"tel"_s, 10, false, 0}},
-         u"INSERT INTO empresas (id,emp) VALUES ('1','Andina')"_s,
-         [](QWidget* d) { control<QComboBox>(d, u"Cmb"_s)->setCurrentIndex(0); }},
-        {u"frmSubProveedor"_s,
-         [](clsNomencla& n, const QString& id, QSqlDatabase& db) { return n.SubProveedores(id, 7, db); },
-         u"SubProveedor"_s, u"cod"_s, exito, 1, incompleta,
-         {{u"Tx(0)"_s, u"cin"_s, 13}, {u"Tx(1)"_s, u"ruc"_s, 13}, {u"Tx(2)"_s, u"raz"_s, 100},
-          {u"Tx(3)"_s, u"dir"_s, 100, false, 0}},
-         u"INSERT INTO mProveedor (cod,nom,ced) VALUES (7,'Distribuidora','1790000000001')"_s},
-        // A place of a stored zone, written at Enter in its ordinal.
-        {u"frmLsZona"_s, &clsNomencla::ZonaClientes, u"mZonaLugar"_s, u"cod"_s,
-         u"El lugar asociado a la zona se ha registrado en la base de datos!"_s, 2,
-         u"Debe especificar el nombre del lugar!"_s, {{u"Tx(2)"_s, u"lug"_s, 50}},
-         u"INSERT INTO mZonaClie (id,cod,zon) VALUES ('1',1,'Norte'),('2',1,'Norte')"_s,
-         [](QWidget* d) {
-             auto* gr = control<nomencla::Alfarje>(d, u"GR"_s);
-             if (gr->Row() < 0)
-                 dobleClic(gr, 0);
-         },
-         [](QWidget* d) { tecla(control<QLineEdit>(d, u"Tx(3)"_s), Qt::Key_Return); }},
-    };
-    return lista;
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #pragma once
-// The walk through every maintenance dialog that the tenant test and the plan
-// test share: each dialog saves a new record of tenant '1' of the demo data,
-// renames one and removes another.
+// The walk through every maintenance dialog of the plan test: each dialog
+// saves a new record of tenant '1' of the demo data, renames one and removes
+// another.
 #include "tests/prueba_estructura.h"
 
 #include <nomencla/clsNomencla.h>

@@ -1,5 +1,3 @@
 nomencla_prueba(prueba_fallos prueba_fallos.cpp)
-nomencla_prueba(prueba_concurrencia prueba_concurrencia.cpp)
 nomencla_prueba(prueba_textos_hostiles prueba_textos_hostiles.cpp)
-nomencla_prueba(prueba_inquilinos prueba_inquilinos.cpp)
 nomencla_prueba(prueba_ida_y_vuelta prueba_ida_y_vuelta.cpp prueba_estructura.h)
