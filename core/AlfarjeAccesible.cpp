@@ -70,26 +70,32 @@ QRect enPantalla(const QWidget* w, QRect r)
     return r.translated(w->mapToGlobal(QPoint(0, 0)));
 }
 
-class TablaAccesible;
-
-// A column title: read as words.
-class TituloAccesible : public QAccessibleInterface {
+// What the title, a cell and a total share: no object of their own, no
+// children, a text nobody sets.
+class HojaAccesible : public QAccessibleInterface {
 public:
-    TituloAccesible(Alfarje* g, int columna) : g_(g), columna_(columna) {}
-    bool isValid() const override { return g_ && columna_ < g_->model()->columnCount(); }
     QObject* object() const override { return nullptr; }
-    QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(g_.data()); }
     QAccessibleInterface* child(int) const override { return nullptr; }
     int childCount() const override { return 0; }
     int indexOfChild(const QAccessibleInterface*) const override { return -1; }
     QAccessibleInterface* childAt(int, int) const override { return nullptr; }
+    void setText(QAccessible::Text, const QString&) override {}
+};
+
+class TablaAccesible;
+
+// A column title: read as words.
+class TituloAccesible : public HojaAccesible {
+public:
+    TituloAccesible(Alfarje* g, int columna) : g_(g), columna_(columna) {}
+    bool isValid() const override { return g_ && columna_ < g_->model()->columnCount(); }
+    QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(g_.data()); }
     QString text(QAccessible::Text t) const override
     {
         if (t != QAccessible::Name || !isValid())
             return QString();
         return tituloHablado(g_->model()->headerData(columna_, Qt::Horizontal).toString());
     }
-    void setText(QAccessible::Text, const QString&) override {}
     QRect rect() const override
     {
         if (!isValid())
@@ -111,7 +117,7 @@ private:
 };
 
 // A cell: its text as shown, or for a flag column a check box with its state.
-class CeldaAccesible : public QAccessibleInterface,
+class CeldaAccesible : public HojaAccesible,
                        public QAccessibleTableCellInterface,
                        public QAccessibleActionInterface {
 public:
@@ -121,12 +127,7 @@ public:
     {
         return g_ && fila_ < g_->model()->rowCount() && columna_ < g_->model()->columnCount();
     }
-    QObject* object() const override { return nullptr; }
     QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(g_.data()); }
-    QAccessibleInterface* child(int) const override { return nullptr; }
-    int childCount() const override { return 0; }
-    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
-    QAccessibleInterface* childAt(int, int) const override { return nullptr; }
     void* interface_cast(QAccessible::InterfaceType t) override
     {
         if (t == QAccessible::TableCellInterface)
@@ -145,7 +146,6 @@ public:
             return QString();
         return indice().data(Qt::DisplayRole).toString();
     }
-    void setText(QAccessible::Text, const QString&) override {}
     QRect rect() const override
     {
         if (!isValid())
@@ -404,17 +404,12 @@ QList<QAccessibleInterface*> CeldaAccesible::columnHeaderCells() const
 
 // The totals line: one text per column on screen that has a total; its
 // description is the column's title.
-class TotalAccesible : public QAccessibleInterface {
+class TotalAccesible : public HojaAccesible {
 public:
     TotalAccesible(QWidget* linea, int columna) : linea_(linea), columna_(columna) {}
     Alfarje* grilla() const { return linea_ ? qobject_cast<Alfarje*>(linea_->parentWidget()) : nullptr; }
     bool isValid() const override { return grilla() != nullptr; }
-    QObject* object() const override { return nullptr; }
     QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(linea_.data()); }
-    QAccessibleInterface* child(int) const override { return nullptr; }
-    int childCount() const override { return 0; }
-    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
-    QAccessibleInterface* childAt(int, int) const override { return nullptr; }
     QString text(QAccessible::Text t) const override
     {
         if (!isValid())
@@ -425,7 +420,6 @@ public:
             return tituloHablado(grilla()->model()->headerData(columna_, Qt::Horizontal).toString());
         return QString();
     }
-    void setText(QAccessible::Text, const QString&) override {}
     QRect rect() const override
     {
         if (!isValid())
